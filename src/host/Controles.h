@@ -1,0 +1,120 @@
+#pragma once
+
+#include "host/DataHora.h"
+#include "host/Exportar.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace host {
+
+// A control is a named holder of state that tells its listeners when it changes. Setting a state that it already has
+// tells nobody and runs nothing. Widgets and scripts know a control by name and kind alone.
+class HOST_API TControle {
+  public:
+    explicit TControle(std::string ANome) : FNome(std::move(ANome)) {}
+    virtual ~TControle() = default;
+    TControle(const TControle&) = delete;
+    TControle& operator=(const TControle&) = delete;
+
+    const std::string& Nome() const { return FNome; }
+    bool Enabled() const { return FEnabled; }
+    bool Visible() const { return FVisible; }
+    void SetEnabled(bool AValor) { Mudar(FEnabled, AValor); }
+    void SetVisible(bool AValor) { Mudar(FVisible, AValor); }
+    const std::string& Caption() const { return FCaption; }
+    void SetCaption(std::string ATexto) { Mudar(FCaption, std::move(ATexto)); }
+
+    std::function<void()> OnExit; // the user leaves the control
+    // Listeners outlive the control or are never told again.
+    void AoMudar(std::function<void()> AOuvinte) { FOuvintes.push_back(std::move(AOuvinte)); }
+
+  protected:
+    template <class T>
+    bool Mudar(T& ACampo, T AValor) {
+        if (ACampo == AValor)
+            return false;
+        ACampo = std::move(AValor);
+        for (const auto& LOuvinte : FOuvintes)
+            LOuvinte();
+        return true;
+    }
+
+  private:
+    std::string FNome;
+    std::string FCaption;
+    bool FEnabled = true;
+    bool FVisible = true;
+    std::vector<std::function<void()>> FOuvintes;
+};
+
+// A button's or a menu entry's operation.
+class HOST_API TAction : public TControle {
+  public:
+    TAction(std::string ANome, std::function<void()> AOnExecute)
+        : TControle(std::move(ANome)), FOnExecute(std::move(AOnExecute)) {}
+    void Execute() { FOnExecute(); }
+
+  private:
+    std::function<void()> FOnExecute;
+};
+
+class HOST_API TPanel : public TControle {
+  public:
+    using TControle::TControle;
+};
+
+class HOST_API TZTCheckBox : public TControle {
+  public:
+    using TControle::TControle;
+    bool Checked() const { return FChecked; }
+    // Runs OnClick, inside the call, if the state changes.
+    void SetChecked(bool AValor);
+    std::function<void()> OnClick;
+
+  private:
+    bool FChecked = false;
+};
+
+// Items with a parallel list of values. Rules compare the value, never the item.
+class HOST_API TZTComboBox : public TControle {
+  public:
+    using TControle::TControle;
+    // Replaces both lists; the first item is then the selected one.
+    void SetItens(std::vector<std::string> AItens, std::vector<std::string> AValores);
+    const std::vector<std::string>& Itens() const { return FItens; }
+    const std::vector<std::string>& Valores() const { return FValores; }
+    int ItemIndex() const { return FItemIndex; } // -1 for none
+    void SetItemIndex(int AIndice);
+    // Empty where nothing is selected or the list of values does not reach.
+    std::string GetValorSelecionado() const;
+    // A value that is not in the list selects nothing.
+    void SetValorSelecionado(const std::string& AValor);
+    std::function<void()> OnChange;
+
+  private:
+    std::vector<std::string> FItens;
+    std::vector<std::string> FValores;
+    int FItemIndex = -1;
+};
+
+// A date under a mask. The text is what was typed; the date is blank while the text is no date.
+class HOST_API TZTDateEdit : public TControle {
+  public:
+    static constexpr const char* Mascara = "  /  /    ";
+
+    using TControle::TControle;
+    TDataHora Date() const { return FDate; }
+    const std::string& Texto() const { return FTexto; }
+    bool EmBranco() const { return FTexto == Mascara; }
+    void SetDate(TDataHora AData);
+    void SetTexto(std::string ATexto); // empty: the blank mask
+
+  private:
+    TDataHora FDate;
+    std::string FTexto = Mascara;
+};
+
+} // namespace host

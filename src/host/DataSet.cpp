@@ -1,0 +1,183 @@
+#include "host/DataSet.h"
+
+#include "host/Falhas.h"
+
+#include <algorithm>
+#include <numeric>
+#include <stdexcept>
+
+namespace host {
+
+namespace {
+
+constexpr std::size_t LinhasPorLeitura = 4096;
+
+} // namespace
+
+TField::TField(TDataSet& ADataSet, std::size_t AIndice) : FDataSet(&ADataSet), FIndice(AIndice) {}
+
+const TDescricaoColuna& TField::Descricao() const { return FDataSet->FColunas[FIndice].Descricao(); }
+
+TValor TField::Valor() const {
+    if (const auto* LEdicao = FDataSet->LinhaEmEdicao())
+        return (*LEdicao)[FIndice];
+    return FDataSet->FColunas[FIndice].Valor(FDataSet->LinhaAtual());
+}
+
+bool TField::IsNull() const { return EhNulo(Valor()); }
+
+std::optional<std::int64_t> TField::AsInt64() const {
+    const TValor LValor = Valor();
+    if (EhNulo(LValor))
+        return std::nullopt;
+    auto LDecimal = std::get_if<TDecimal>(&LValor) ? std::optional(std::get<TDecimal>(LValor))
+                                                   : TDecimal::De(TextoDe(LValor));
+    if (!LDecimal || !(LDecimal->ComEscala(0) == *LDecimal))
+        throw TFalha("O valor \"" + TextoDe(LValor) + "\" do campo " + Nome() + " não é um número inteiro.");
+    return LDecimal->ComEscala(0).Unidades;
+}
+
+std::optional<TDecimal> TField::AsDecimal() const {
+    const TValor LValor = Valor();
+    if (EhNulo(LValor))
+        return std::nullopt;
+    if (const auto* LDecimal = std::get_if<TDecimal>(&LValor))
+        return *LDecimal;
+    throw TFalha("O campo " + Nome() + " não tem um número exato.");
+}
+
+TMoeda TField::AsMoedaOuZero() const {
+    const auto LDecimal = AsDecimal();
+    return LDecimal ? TMoeda(*LDecimal) : TMoeda();
+}
+
+std::optional<TDataHora> TField::AsDateTime() const {
+    const TValor LValor = Valor();
+    if (EhNulo(LValor))
+        return std::nullopt;
+    if (const auto* LData = std::get_if<TDataHora>(&LValor))
+        return *LData;
+    throw TFalha("O campo " + Nome() + " não tem uma data.");
+}
+
+std::string TField::AsString() const { return TextoDe(Valor()); }
+
+void TField::Atribuir(const TValor& AValor) {
+    FDataSet->AtribuirEmEdicao(FIndice, FDataSet->FColunas[FIndice].Converter(AValor));
+}
+
+void TDataSet::AtribuirEmEdicao(std::size_t, const TValor&) {
+    throw std::logic_error(FNome + " is not in edit or insert");
+}
+
+void TDataSet::MudarEstado(TEstadoDataSet AEstado) {
+    FEstado = AEstado;
+    for (const auto& LOuvinte : FOuvintes)
+        LOuvinte();
+}
+
+void TDataSet::Open() {
+    if (Active())
+        return;
+    {
+        const auto LCursor = AbrirCursor();
+        TColunas LColunas(LCursor->Colunas().begin(), LCursor->Colunas().end());
+        while (LCursor->Ler(LColunas, LinhasPorLeitura) != 0)
+            continue;
+        FColunas = std::move(LColunas);
+    }
+    for (std::size_t I = 0; I < FColunas.size(); ++I) {
+        FCampos.emplace_back(*this, I);
+        FPorNome.try_emplace(FColunas[I].Descricao().Nome, I);
+    }
+    FOrdem.resize(FColunas.empty() ? 0 : FColunas.front().Tamanho());
+    std::iota(FOrdem.begin(), FOrdem.end(), 0U);
+    AoCarregar();
+    First();
+    MudarEstado(TEstadoDataSet::Navegando);
+    if (!AfterOpen)
+        return;
+    try {
+        AfterOpen(*this);
+    } catch (...) {
+        Close();
+        throw;
+    }
+}
+
+void TDataSet::Close() {
+    if (!Active())
+        return;
+    FColunas.clear();
+    FOrdem = {};
+    FCampos.clear();
+    FPorNome.clear();
+    FPosicao = 0;
+    FEof = FBof = true;
+    AoFechar();
+    MudarEstado(TEstadoDataSet::Fechado);
+}
+
+void TDataSet::Posicionar(std::size_t APosicao) {
+    FPosicao = APosicao;
+    FEof = FBof = FOrdem.empty();
+}
+
+void TDataSet::IrPara(std::size_t ARecNo) {
+    if (ARecNo == 0 || ARecNo > FOrdem.size())
+        throw std::out_of_range(FNome + " has no row " + std::to_string(ARecNo));
+    Posicionar(ARecNo - 1);
+}
+
+void TDataSet::First() {
+    Posicionar(0);
+    FBof = true;
+}
+
+void TDataSet::Last() {
+    Posicionar(FOrdem.empty() ? 0 : FOrdem.size() - 1);
+    FEof = true;
+}
+
+void TDataSet::Next() {
+    if (FPosicao + 1 < FOrdem.size())
+        Posicionar(FPosicao + 1);
+    else
+        FEof = true;
+}
+
+void TDataSet::Prior() {
+    if (FPosicao > 0)
+        Posicionar(FPosicao - 1);
+    else
+        FBof = true;
+}
+
+std::size_t TDataSet::LinhaAtual() const {
+    if (FOrdem.empty())
+        throw TFalha("O conjunto de dados " + FNome + " não tem registro atual.");
+    return FOrdem[FPosicao];
+}
+
+TField& TDataSet::FieldByName(std::string_view ANome) {
+    const auto LAchado = FPorNome.find(ANome);
+    if (LAchado == FPorNome.end())
+        throw TFalha("O conjunto de dados " + FNome + " não tem o campo " + std::string(ANome) + ".");
+    return FCampos[LAchado->second];
+}
+
+const TField* TDataSet::FindField(std::string_view ANome) const {
+    const auto LAchado = FPorNome.find(ANome);
+    return LAchado == FPorNome.end() ? nullptr : &FCampos[LAchado->second];
+}
+
+std::int64_t TDataSet::GetInt64FieldValue(std::string_view ANome) {
+    const auto LValor = FieldByName(ANome).AsInt64();
+    if (!LValor)
+        throw TFalha("O campo " + std::string(ANome) + " de " + FNome + " está vazio.");
+    return *LValor;
+}
+
+std::unique_ptr<TCursor> TZTSQLQuery::AbrirCursor() { return FConexao.AbrirCursor({Nome(), SQL}); }
+
+} // namespace host

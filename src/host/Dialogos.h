@@ -1,0 +1,57 @@
+#pragma once
+
+#include "host/Interacao.h"
+
+namespace host {
+
+// The suite's messages and questions.
+class HOST_API TZTUtilsDialogs {
+  public:
+    void Informacao(const std::string& ATexto) const;
+    void Erro(const std::string& ATexto) const;
+    // A question with the buttons of that type.
+    int Confirmacao(const std::string& ATexto, int ATipoBotao, const std::string& ATitulo) const;
+    // Buttons by their captions. Returns 6, 7 or 2 for the first, second or third.
+    int ConfirmacaoCustomizada(const std::string& ATexto, TNivelMensagem ANivel, int APadrao, const std::string& ATitulo,
+                               std::vector<std::string> ABotoes) const;
+};
+
+const inline TZTUtilsDialogs GZTUtilsDialogs;
+
+class TZTBarraProgressoDlg;
+
+// One level of the progress dialog.
+class HOST_API TFrameZTBarraProgressoItem {
+  public:
+    explicit TFrameZTBarraProgressoItem(int ANivel) : FNivel(ANivel) {}
+    void SetTexto(const std::string& ATexto);
+    void SetValorMaximo(int AValor); // starts the level again from zero
+    void AvancarProgresso(int APosicao); // 0: one step
+    void IniciarSimulacaoProcesso();     // a bar without a known length
+    void PararSimulacaoProcesso();
+
+  private:
+    int FNivel;
+    int FPosicao = 0;
+};
+
+// The progress dialog, made by the caller for one run and closed with it.
+class HOST_API TZTBarraProgressoDlg {
+  public:
+    explicit TZTBarraProgressoDlg(int ANiveis = 1);
+    ~TZTBarraProgressoDlg(); // closes it; never throws
+    TZTBarraProgressoDlg(const TZTBarraProgressoDlg&) = delete;
+    TZTBarraProgressoDlg& operator=(const TZTBarraProgressoDlg&) = delete;
+
+    void SetTitulo(const std::string& ATexto);
+    void MostrarBarraProgresso();
+    void FecharBarraProgresso(); // of a closed one: nothing
+    bool GetProcessoCancelado() const;
+    TFrameZTBarraProgressoItem& BuscarBarraProgresso(int ANivel); // throws std::out_of_range
+
+  private:
+    std::vector<TFrameZTBarraProgressoItem> FNiveis;
+    bool FVisivel = false;
+};
+
+} // namespace host

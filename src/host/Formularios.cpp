@@ -1,0 +1,95 @@
+#include "host/Formularios.h"
+
+#include "host/Falhas.h"
+#include "host/Servicos.h"
+
+namespace host {
+
+namespace {
+
+template <class TLista, class TNomear>
+[[noreturn]] void NaoExiste(const std::string& AForm, std::string_view ANome, const TLista& AExistentes,
+                            TNomear ANomear) {
+    std::string LLista;
+    for (const auto* LItem : AExistentes)
+        LLista += (LLista.empty() ? "" : ", ") + ANomear(*LItem);
+    throw TFalha(AForm + " não tem \"" + std::string(ANome) + "\". Existem: " + LLista + ".");
+}
+
+} // namespace
+
+void TForm::Registrar(std::initializer_list<TControle*> AControles) {
+    FControles.insert(FControles.end(), AControles);
+}
+
+void TForm::Registrar(std::initializer_list<TDataSource*> AFontes) { FFontes.insert(FFontes.end(), AFontes); }
+
+TControle& TForm::Controle(std::string_view ANome) const {
+    for (auto* LControle : FControles)
+        if (LControle->Nome() == ANome)
+            return *LControle;
+    NaoExiste(FNome, ANome, FControles, [](const TControle& C) { return C.Nome(); });
+}
+
+TAction& TForm::Acao(std::string_view ANome) const {
+    if (auto* LAcao = dynamic_cast<TAction*>(&Controle(ANome)))
+        return *LAcao;
+    throw TFalha(FNome + ": \"" + std::string(ANome) + "\" não é uma ação.");
+}
+
+TDataSet& TForm::DataSet(std::string_view ANome) const {
+    for (const auto* LFonte : FFontes)
+        if (LFonte->DataSet && LFonte->DataSet->Nome() == ANome)
+            return *LFonte->DataSet;
+    NaoExiste(FNome, ANome, FFontes,
+              [](const TDataSource& F) { return F.DataSet ? F.DataSet->Nome() : F.Nome(); });
+}
+
+void TForm::SairDe(TControle& AControle) {
+    try {
+        ValidarCampos(&AControle);
+        if (AControle.OnExit)
+            AControle.OnExit();
+    } catch (const Abort&) { // the rule has told the user
+    }
+}
+
+void TForm::Executar(TAction& AAcao) {
+    try {
+        AAcao.Execute();
+    } catch (const Abort&) { // the rule has told the user
+    }
+}
+
+void TDmZTTandorPadrao::Conectar(std::initializer_list<TZTSQLDataSet*> ADataSets) {
+    for (auto* LDataSet : ADataSets)
+        LDataSet->SetSQLConnection(ZTConnection().GetSQLConnection());
+}
+
+TFormZTTandorPadraoSelecao::TFormZTTandorPadraoSelecao(std::string ANome, std::string ATitulo)
+    : TForm(std::move(ANome), std::move(ATitulo)),
+      ActSelecionar("ActSelecionar", [this] { ActSelecionarExecute(&ActSelecionar); }) {
+    ActSelecionar.SetCaption("&Selecionar");
+    Registrar({&ActSelecionar});
+}
+
+TFormZTTandorPadraoResult::TFormZTTandorPadraoResult(std::string ANome, std::string ATitulo)
+    : TForm(std::move(ANome), std::move(ATitulo)), ActOK("actOK", [this] { ActOKExecute(&ActOK); }),
+      ActSair("actSair", [this] { ActSairExecute(); }) {
+    Registrar({&ActOK, &ActSair});
+}
+
+int TFormZTTandorPadraoResult::ShowModal() {
+    FAberto = true;
+    FModalResult = 0;
+    FormShow();
+    Servicos().Interacao->MostrarModal(*this);
+    return FModalResult;
+}
+
+void TFormZTTandorPadraoResult::Fechar(int AResultado) {
+    FAberto = false;
+    FModalResult = AResultado;
+}
+
+} // namespace host

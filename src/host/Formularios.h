@@ -1,0 +1,114 @@
+#pragma once
+
+#include "host/Controles.h"
+#include "host/DataSet.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace host {
+
+// Binds a grid to a dataset under a name.
+class HOST_API TDataSource {
+  public:
+    explicit TDataSource(std::string ANome) : FNome(std::move(ANome)) {}
+    const std::string& Nome() const { return FNome; }
+    TDataSet* DataSet = nullptr; // not owned
+
+  private:
+    std::string FNome;
+};
+
+// Base of every form: its controls, actions and data sources by name, and what its frame does for all. A form is a
+// model; whoever shows it sets states and calls its operations, and no rule stands anywhere else.
+class HOST_API TForm {
+  public:
+    TForm(std::string ANome, std::string ATitulo) : FNome(std::move(ANome)), FTitulo(std::move(ATitulo)) {}
+    virtual ~TForm() = default;
+    TForm(const TForm&) = delete;
+    TForm& operator=(const TForm&) = delete;
+
+    const std::string& Nome() const { return FNome; }
+    const std::string& Titulo() const { return FTitulo; }
+    const std::vector<TControle*>& Controles() const { return FControles; } // in the order of the form
+
+    // Throw TFalha, which lists what there is, for an unknown name.
+    TControle& Controle(std::string_view ANome) const;
+    TAction& Acao(std::string_view ANome) const;
+    TDataSet& DataSet(std::string_view ANome) const; // by the dataset's own name, through the data sources
+
+    // What the user does. An Abort of a rule ends here, its message having been shown; other failures pass.
+    // Leaving validates the control and then runs its exit event.
+    void SairDe(TControle& AControle);
+    void Executar(TAction& AAcao);
+
+    virtual void InitializeForm() {}
+    // With a control: what leaving it requires. With none: everything, for the commit.
+    virtual void ValidarCampos(TControle* /*ASender*/) {}
+    virtual void Imprimir() {}
+
+  protected:
+    // Members of the form, registered by its constructor in the order of the form.
+    void Registrar(std::initializer_list<TControle*> AControles);
+    void Registrar(std::initializer_list<TDataSource*> AFontes);
+
+  private:
+    std::string FNome;
+    std::string FTitulo;
+    std::vector<TControle*> FControles;
+    std::vector<TDataSource*> FFontes;
+};
+
+// Base of a data module.
+class HOST_API TDMPadrao {
+  public:
+    TDMPadrao() = default;
+    virtual ~TDMPadrao() = default;
+    TDMPadrao(const TDMPadrao&) = delete;
+    TDMPadrao& operator=(const TDMPadrao&) = delete;
+};
+
+// Base of the query modules: their SQL datasets are on the suite's connection once created.
+class HOST_API TDmZTTandorPadrao : public TDMPadrao {
+  protected:
+    void Conectar(std::initializer_list<TZTSQLDataSet*> ADataSets);
+};
+
+// Base of a window: the action "Selecionar" and the slot of the data module.
+class HOST_API TFormZTTandorPadraoSelecao : public TForm {
+  public:
+    TFormZTTandorPadraoSelecao(std::string ANome, std::string ATitulo);
+    virtual void ActSelecionarExecute(TControle* /*ASender*/) {}
+
+  protected:
+    std::unique_ptr<TDMPadrao> FDataModule;
+    TAction ActSelecionar;
+};
+
+// Base of a modal dialog with "OK" and "Sair".
+class HOST_API TFormZTTandorPadraoResult : public TForm {
+  public:
+    static constexpr int ResultadoSair = 2;
+
+    TFormZTTandorPadraoResult(std::string ANome, std::string ATitulo);
+    // Returns the ModalResult with which the dialog was closed.
+    int ShowModal();
+    bool Aberto() const { return FAberto; }
+
+    virtual void FormShow() {}
+    virtual void ActOKExecute(TControle* ASender) = 0;
+    virtual void ActSairExecute() { Fechar(ResultadoSair); }
+
+  protected:
+    void Fechar(int AResultado);
+
+    TAction ActOK;
+    TAction ActSair;
+
+  private:
+    bool FAberto = false;
+    int FModalResult = 0;
+};
+
+} // namespace host

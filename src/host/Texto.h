@@ -1,0 +1,24 @@
+#pragma once
+
+#include "host/Exportar.h"
+
+#include <cstdint>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace host {
+
+using TArgumento = std::variant<std::int64_t, std::string>;
+
+// Fills the placeholders of a text: "%0:s" and "%1:d" take the argument of that number, "%s" and "%d" the next one,
+// "%%" is a percent sign. s takes a text, d a number. A placeholder without its argument or with one of the other
+// kind, or an argument that no placeholder takes, is a fault of the caller: std::logic_error.
+HOST_API std::string Format(std::string_view ATexto, std::initializer_list<TArgumento> AArgumentos);
+
+// The text as a SQL literal, quotes included.
+HOST_API std::string QuotedStr(std::string_view ATexto);
+HOST_API std::string Trim(std::string_view ATexto);
+
+} // namespace host

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "host/Conexao.h"
+#include "suite/firebird/Attachment.h"
+#include "suite/firebird/Transaction.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace suite::firebird {
+
+// The host's connection over one attachment.
+class Connection final : public host::TZTConnection, public host::TSQLConnection {
+  public:
+    Connection(const Target& target, const Credentials& credentials) : attachment_(target, credentials) {}
+    ~Connection() override;
+
+    std::unique_ptr<host::TZTTransacao> IniciarTransacao() override;
+    std::unique_ptr<host::TZTTransacao> IniciarTransacaoSomenteLeitura() override;
+    void FinalizarTransacao(host::TZTTransacao& transaction) override;
+    void CancelarTransacao(host::TZTTransacao& transaction) override;
+    host::TResultStatus ExecutouSQL(std::span<const host::TInstrucao> statements, bool durable) override;
+    std::vector<std::string> AplicarAlteracoesNoBD(std::span<host::TZTClientDataSet* const> dataSets) override;
+    host::TSQLConnection& GetSQLConnection() override { return *this; }
+    std::int64_t BuscarProximoID(std::string_view table) override;
+
+    std::unique_ptr<host::TCursor> AbrirCursor(const host::TInstrucao& statement) override;
+    void ExecuteDirect(const std::string& text) override;
+
+    Attachment& attachment() { return attachment_; }
+
+  private:
+    class Held;
+
+    std::unique_ptr<host::TZTTransacao> begin(TransactionMode mode);
+    Transaction* openTransaction() const; // null when there is none
+    std::string generatorOf(const std::string& table);
+
+    Attachment attachment_;
+    std::vector<Held*> open_; // in the order of their beginning
+    std::map<std::string, std::string, std::less<>> generators_;
+};
+
+} // namespace suite::firebird

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "host/DataHora.h"
+
+#include <ibase.h>
+
+#include <cstring>
+
+namespace suite::firebird {
+
+// Values as they lie in a message buffer, which need not be aligned.
+template <class T>
+T load(const unsigned char* from) {
+    T value;
+    std::memcpy(&value, from, sizeof value);
+    return value;
+}
+template <class T>
+void store(unsigned char* to, T value) {
+    std::memcpy(to, &value, sizeof value);
+}
+
+// The engine counts days from 1858-11-17, the host from 1899-12-30; both count ten-thousandths of a second.
+constexpr std::int64_t DaysBetweenEpochs = 15018;
+
+inline host::TDataHora dateFromWire(ISC_DATE day, ISC_TIME time) {
+    return host::TDataHora::DeDecimos((day - DaysBetweenEpochs) * host::TDataHora::DecimosPorDia + time);
+}
+inline ISC_TIMESTAMP dateToWire(host::TDataHora value) {
+    const auto midnight = value.SemHora().Decimos();
+    return {static_cast<ISC_DATE>(midnight / host::TDataHora::DecimosPorDia + DaysBetweenEpochs),
+            static_cast<ISC_TIME>(value.Decimos() - midnight)};
+}
+
+} // namespace suite::firebird

@@ -1,0 +1,90 @@
+#include "suite/program/Login.h"
+
+#include "host/DbManager.h"
+#include "host/Falhas.h"
+#include "host/Texto.h"
+
+namespace suite::program {
+
+namespace {
+
+using host::Format;
+
+std::unique_ptr<host::TDataSet> query(const std::string& text, const char* name) {
+    return host::BuscarInstanciaZTUtilsDbManager().AbrirConsultaSQL(text, name);
+}
+
+bool ownsRows(const char* table, std::int64_t company) {
+    return !query(Format("SELECT FIRST 1 1 AS ACHOU FROM %s WHERE %s.IDEMPRESA = %d", {table, table, company}),
+                  "dono do cadastro")
+                ->IsEmpty();
+}
+
+// The key of the row with that code, or with the lowest one.
+std::int64_t find(const std::string& table, const std::string& key, const std::string& code, const std::string& where,
+                  std::optional<std::int64_t> wanted, const char* what) {
+    std::string conditions = where;
+    if (wanted)
+        conditions += (where.empty() ? " WHERE " : " AND ") + table + "." + code + " = " + std::to_string(*wanted);
+    const auto rows = query("SELECT FIRST 1 " + table + "." + key + " FROM " + table + conditions + " ORDER BY " +
+                                table + "." + code,
+                            what);
+    if (!rows->IsEmpty())
+        return rows->GetInt64FieldValue(key);
+    if (wanted)
+        throw host::TFalha("Não existe " + std::string(what) + " com o código " + std::to_string(*wanted) +
+                           " neste banco de dados. Verifique o código.");
+    return 0;
+}
+
+} // namespace
+
+Login::Login(const LoginRequest& request) {
+    const auto company = find("SC00_EMPRESA", "IDEMPRESA", "EMPRESA", "", request.company, "empresa");
+    if (company == 0)
+        throw host::TFalha("O banco de dados não tem nenhuma empresa cadastrada.");
+    company_ = BuscarDadosEmpresa(company);
+    establishment_ = find("SC00_FILIAL", "IDFILIAL", "FILIAL",
+                          Format(" WHERE SC00_FILIAL.IDEMPRESA = %d", {company}), request.establishment,
+                          "estabelecimento");
+    user_ = find("US09_USUARIO", "IDUSUARIO", "CODIGO", "", request.user, "usuário");
+}
+
+std::int64_t Login::BuscarIDHolding(std::int64_t company) const {
+    const auto rows =
+        query(Format("SELECT SC00_EMPRESA.IDHOLDING FROM SC00_EMPRESA WHERE SC00_EMPRESA.IDEMPRESA = %d", {company}),
+              "holding da empresa");
+    return rows->IsEmpty() ? company : rows->FieldByName("IDHOLDING").AsInt64().value_or(company);
+}
+
+host::TDadosEmpresa Login::BuscarDadosEmpresa(std::int64_t company) const {
+    const auto rows = query(Format(R"(
+SELECT SC00_EMPRESA.EMPRESA,
+       SC00_EMPRESA.NOME,
+       (SELECT COUNT(*)
+          FROM SC00_EMPRESA OUTRA
+         WHERE OUTRA.IDHOLDING = SC00_EMPRESA.IDEMPRESA
+           AND OUTRA.IDEMPRESA <> SC00_EMPRESA.IDEMPRESA) AS CONTROLADAS
+  FROM SC00_EMPRESA
+ WHERE SC00_EMPRESA.IDEMPRESA = %d)",
+                                   {company}),
+                            "dados da empresa");
+    if (rows->IsEmpty())
+        throw host::TFalha("A empresa de registro " + std::to_string(company) + " não existe.");
+    return {company, rows->GetInt64FieldValue("EMPRESA"), rows->FieldByName("NOME").AsString(),
+            rows->GetInt64FieldValue("CONTROLADAS") > 0};
+}
+
+std::int64_t Login::ownerOf(const char* table, std::int64_t company) const {
+    return ownsRows(table, company) ? company : BuscarIDHolding(company);
+}
+
+std::int64_t Login::BuscarIDEmpresaPlano(std::int64_t company) const { return ownerOf("CO01_PLANO", company); }
+
+std::int64_t Login::BuscarIDEmpresaCCusto(std::int64_t company) const { return ownerOf("CO01_CENTROCUSTO", company); }
+
+bool Login::BuscarEmpresaUtilizaCtbPorCentroCusto(std::int64_t company) const {
+    return ownsRows("CO01_CENTROCUSTO", BuscarIDEmpresaCCusto(company));
+}
+
+} // namespace suite::program

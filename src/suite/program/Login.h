@@ -1,0 +1,44 @@
+#pragma once
+
+#include "host/Empresa.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace suite::program {
+
+// Who asks to be logged in, by codes; without one the lowest there is.
+struct LoginRequest {
+    std::optional<std::int64_t> company;       // SC00_EMPRESA.EMPRESA
+    std::optional<std::int64_t> establishment; // SC00_FILIAL.FILIAL, inside the company
+    std::optional<std::int64_t> user;          // US09_USUARIO.CODIGO
+};
+
+// The logged company, establishment and user, and what the suite knows of companies. Reads through the host's
+// connection, which must be installed. The constructor throws host::TFalha when there is no such company,
+// establishment or user.
+class Login final : public host::TZTEmpresaLogada, public host::TUtilContabil, public host::TUtilSistema {
+  public:
+    explicit Login(const LoginRequest& request);
+
+    std::int64_t GetIDEmpresa() const override { return company_.IDEmpresa; }
+    std::int64_t BuscarIDEmpresaPlano(std::int64_t company) const override;
+    std::int64_t BuscarIDHolding(std::int64_t company) const override;
+    host::TDadosEmpresa BuscarDadosEmpresa(std::int64_t company) const override;
+    std::int64_t BuscarIDEmpresaCCusto(std::int64_t company) const override;
+    bool BuscarEmpresaUtilizaCtbPorCentroCusto(std::int64_t company) const override;
+    std::int64_t GetIDFilialLogada() const override { return establishment_; }
+    std::int64_t GetIDUsuarioLogado() const override { return user_; }
+
+    const host::TDadosEmpresa& company() const { return company_; }
+
+  private:
+    std::int64_t ownerOf(const char* table, std::int64_t company) const;
+
+    host::TDadosEmpresa company_;
+    std::int64_t establishment_ = 0;
+    std::int64_t user_ = 0;
+};
+
+} // namespace suite::program

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "suite/firebird/Target.h"
+#include "suite/program/Login.h"
+
+#include <optional>
+#include <string>
+
+namespace suite::program {
+
+struct ConsultOptions {
+    std::string mode = "1";
+    std::string from;
+    std::string to;
+    std::string scenario = "0";
+    bool groupEstablishments = false;
+    std::string format = "tabela";
+    std::string output; // a file; empty for standard output
+};
+
+struct DemoOptions {
+    std::string destination; // empty: the user's data folder
+    int scale = 1;
+};
+
+// A command line, read. Exactly one of the commands is set, or none for the bare program.
+struct Options {
+    std::string database; // empty: the demo database
+    firebird::Credentials credentials;
+    LoginRequest login;
+    std::optional<ConsultOptions> consult;
+    std::optional<DemoOptions> demo;
+};
+
+// What is left to do after reading the command line: run, or end with a text already known.
+struct ParsedLine {
+    std::optional<Options> options;
+    std::string text; // help or version for standard output, or what is wrong for standard error
+    bool failed = false;
+};
+
+// Throws host::TFalha when the password file cannot be read.
+ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string& version);
+
+// Where the demo database of this user lives.
+std::filesystem::path defaultDemoFile();
+
+} // namespace suite::program

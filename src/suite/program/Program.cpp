@@ -1,0 +1,134 @@
+#include "suite/program/Program.h"
+
+#include "demo/Demo.h"
+#include "host/Falhas.h"
+#include "host/Servicos.h"
+#include "suite/firebird/Connection.h"
+#include "suite/program/ConsultCommand.h"
+#include "suite/program/Interrupt.h"
+#include "suite/program/Module.h"
+#include "suite/program/Options.h"
+#include "suite/script/Headless.h"
+#include "suite/script/TerminalProgress.h"
+
+#include <iostream>
+#include <unistd.h>
+
+namespace suite::program {
+
+namespace {
+
+class Cancelled {};
+
+bool onTerminal() { return ::isatty(STDERR_FILENO) != 0; }
+
+void makeDemo(const std::filesystem::path& file, int scale, Interrupt& interrupt) {
+    script::TerminalProgress progress(std::cerr, onTerminal());
+    try {
+        demo::Criar({file, scale, [&](const std::string& text, std::size_t done, std::size_t total) {
+                         if (interrupt.requested())
+                             throw Cancelled();
+                         progress.show(text, done, total);
+                     }});
+    } catch (...) {
+        progress.clear();
+        throw;
+    }
+    progress.clear();
+}
+
+ExitCode runDemo(const DemoOptions& options, Interrupt& interrupt) {
+    const auto file = options.destination.empty() ? defaultDemoFile() : std::filesystem::path(options.destination);
+    if (options.destination.empty())
+        std::filesystem::create_directories(file.parent_path());
+    makeDemo(file, options.scale, interrupt);
+    std::cout << "Banco de demonstração criado em " << std::filesystem::absolute(file).string() << "\n";
+    return ExitCode::Done;
+}
+
+// The database asked for, or the user's demo database, which is made at its first use.
+std::string databaseOf(const Options& options, Interrupt& interrupt) {
+    if (!options.database.empty())
+        return options.database;
+    const auto file = defaultDemoFile();
+    if (!std::filesystem::exists(file)) {
+        std::filesystem::create_directories(file.parent_path());
+        std::cerr << "Criando o banco de demonstração em " << file.string() << "\n";
+        makeDemo(file, 1, interrupt);
+    }
+    return file.string();
+}
+
+ExitCode runOnDatabase(const Options& options, Interrupt& interrupt) {
+    const firebird::Target target(databaseOf(options, interrupt));
+    firebird::Connection connection(target, options.credentials);
+    interrupt.onRequest([&] { connection.attachment().cancel(); });
+    struct Detach {
+        Interrupt& interrupt;
+        ~Detach() { interrupt.onRequest({}); }
+    } const detach{interrupt};
+
+    script::Headless interaction(std::cerr, onTerminal());
+    host::TServicos services;
+    services.Conexao = &connection;
+    services.Interacao = &interaction;
+    const host::TInstalacaoServicos connected(services);
+    Login login(options.login);
+    services.EmpresaLogada = &login;
+    services.Contabil = &login;
+    services.Sistema = &login;
+    const host::TInstalacaoServicos loggedIn(services);
+    const Module module(moduleFile());
+    return runConsult(*options.consult, login, interaction);
+}
+
+std::string versionText() {
+    const Module module(moduleFile());
+    const auto& information = module.information();
+    return "orcreal " ORCREAL_VERSAO "\n" + std::string(information.Nome) + ": " + std::string(information.Descricao) +
+           " (banco de dados a partir da versão " + std::string(module.versionRecord("MinVersionDatabase")) + ")";
+}
+
+ExitCode runCommand(const Options& options, Interrupt& interrupt) {
+    if (options.demo)
+        return runDemo(*options.demo, interrupt);
+    if (options.consult)
+        return runOnDatabase(options, interrupt);
+    std::cerr << "Informe um comando: \"consultar\" ou \"demo\". Veja \"orcreal --ajuda\".\n";
+    return ExitCode::WrongUse;
+}
+
+ExitCode report(const host::TFalhaBanco& failure) {
+    std::cerr << failure.what() << "\n";
+    if (failure.Tipo() == host::TTipoFalhaBanco::Cancelado)
+        return ExitCode::Cancelled;
+    std::cerr << "(" << failure.Diagnostico() << ")\n";
+    return ExitCode::DatabaseFailure;
+}
+
+} // namespace
+
+ExitCode run(int argc, const char* const* argv) {
+    Interrupt interrupt;
+    try {
+        const auto line = parseCommandLine(argc, argv, versionText());
+        if (!line.options) {
+            (line.failed ? std::cerr : std::cout) << line.text;
+            return line.failed ? ExitCode::WrongUse : ExitCode::Done;
+        }
+        return runCommand(*line.options, interrupt);
+    } catch (const Cancelled&) {
+        std::cerr << "A operação foi cancelada; nada ficou pela metade.\n";
+        return ExitCode::Cancelled;
+    } catch (const host::TFalhaBanco& failure) {
+        return report(failure);
+    } catch (const host::TFalha& failure) {
+        std::cerr << failure.what() << "\n";
+        return ExitCode::Refused;
+    } catch (const std::exception& fault) {
+        std::cerr << "O programa encontrou uma falha interna e parou: " << fault.what() << "\n";
+        return ExitCode::Refused;
+    }
+}
+
+} // namespace suite::program

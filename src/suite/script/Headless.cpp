@@ -1,0 +1,30 @@
+#include "suite/script/Headless.h"
+
+#include "host/Falhas.h"
+
+#include <algorithm>
+
+namespace suite::script {
+
+int Headless::Mensagem(const host::TMensagem& message) {
+    std::string text = message.Texto;
+    std::replace(text.begin(), text.end(), '\r', '\n');
+    progress_.clear();
+    // The rules may tell the same thing on leaving a field and at the commit; one line says it.
+    if (text != last_)
+        messages_ << text << std::endl;
+    last_ = text;
+    ++count_;
+    if (message.Botoes.size() > 1)
+        throw host::TFalha("A pergunta acima ficou sem resposta.");
+    return 6;
+}
+
+void Headless::MostrarModal(host::TFormZTTandorPadraoResult& form) {
+    if (onModal)
+        onModal(form);
+    if (form.Aberto())
+        form.Executar(form.Acao("actSair"));
+}
+
+} // namespace suite::script

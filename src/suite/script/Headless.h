@@ -1,0 +1,38 @@
+#pragma once
+
+#include "host/Formularios.h"
+#include "host/Interacao.h"
+#include "suite/script/TerminalProgress.h"
+
+#include <functional>
+#include <ostream>
+#include <string>
+
+namespace suite::script {
+
+// The host without a screen: messages go to a stream, dialogs are driven by a function, progress is drawn on a
+// terminal. A question has nobody to answer it: it is a host::TFalha.
+class Headless final : public host::TInteracao {
+  public:
+    Headless(std::ostream& messages, bool terminal) : messages_(messages), progress_(messages, terminal) {}
+
+    // Runs once for each dialog that opens; a dialog still open behind it is closed by its "Sair".
+    std::function<void(host::TFormZTTandorPadraoResult&)> onModal;
+    // Number of messages shown so far.
+    int messageCount() const { return count_; }
+
+    int Mensagem(const host::TMensagem& message) override;
+    void Progresso(const host::TEventoProgresso& event) override { progress_.show(event); }
+    bool ProgressoCancelado() override { return false; }
+    void MostrarModal(host::TFormZTTandorPadraoResult& form) override;
+    void Focar(host::TControle&) override {}
+    void ProcessarMensagens() override {}
+
+  private:
+    std::ostream& messages_;
+    TerminalProgress progress_;
+    int count_ = 0;
+    std::string last_;
+};
+
+} // namespace suite::script

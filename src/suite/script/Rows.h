@@ -1,0 +1,36 @@
+#pragma once
+
+#include "host/DataSet.h"
+
+#include <ostream>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace suite::script {
+
+// A column as it is shown: a field under a title. Rank says what a narrow table leaves out first, the highest before
+// the others; 0 always stays.
+struct ShownColumn {
+    std::string_view field;
+    std::string_view title;
+    int rank = 0;
+    bool stretches = false; // takes what room is left, and is cut where there is too little
+    bool zeroIsBlank = false;
+};
+
+// {"dados":...,"colunas":[...],"linhas":[[...],...]}: every field, numbers exact with the scale of their column.
+void writeJson(std::ostream& out, const host::TDataSet& rows);
+// For spreadsheets in Brazil: ";" between cells, decimal comma, no thousands points, titles in the first line.
+void writeCsv(std::ostream& out, const host::TDataSet& rows, std::span<const ShownColumn> columns);
+// For people: aligned, Brazilian number formats, at most width characters a line; rows of title accounts in bold where
+// the terminal has it. A last line sums the analytic accounts.
+void writeTable(std::ostream& out, const host::TDataSet& rows, std::span<const ShownColumn> columns, std::size_t width,
+                bool bold);
+
+// A cell as a reader of Brazilian numbers and dates expects it, by the field's display format; empty for NULL.
+std::string displayText(const host::TField& field, const host::TValor& value);
+// A JSON string, quotes included.
+std::string quoteJson(std::string_view text);
+
+} // namespace suite::script

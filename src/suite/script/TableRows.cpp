@@ -1,0 +1,158 @@
+#include "host/FormatoNumerico.h"
+#include "suite/script/Rows.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace suite::script {
+
+namespace {
+
+constexpr std::size_t LeastStretch = 28;
+
+// Characters of a UTF-8 text; all that the database holds is one column wide.
+std::size_t length(std::string_view text) {
+    return static_cast<std::size_t>(
+        std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80; }));
+}
+
+std::string cut(std::string_view text, std::size_t width) {
+    if (length(text) <= width)
+        return std::string(text);
+    std::size_t bytes = 0;
+    for (std::size_t taken = 0; bytes < text.size(); ++bytes)
+        if ((static_cast<unsigned char>(text[bytes]) & 0xC0U) != 0x80 && taken++ == width - 1)
+            break;
+    return std::string(text.substr(0, bytes)) + "…";
+}
+
+struct Column {
+    const ShownColumn* shown;
+    const host::TField* field;
+    bool number;
+    std::size_t width;
+    std::vector<std::string> cells;
+    std::string total;
+};
+
+bool isTitle(const host::TDataSet& rows, std::size_t row) {
+    const auto* field = rows.FindField("CTATITULO");
+    return field && host::TDecimal{1, 0} == std::get<host::TDecimal>(rows.Colunas()[field->Indice()].Valor(row));
+}
+
+// Money of the analytic accounts. Percentages and codes have no sum.
+std::string totalOf(const host::TDataSet& rows, const host::TField& field) {
+    if (!field.Nome().starts_with("VLR") && field.Nome() != "DELTAVLR")
+        return {};
+    host::TDecimal sum{0, field.Descricao().Escala};
+    const auto& column = rows.Colunas()[field.Indice()];
+    for (std::size_t i = 0; i < column.Tamanho(); ++i)
+        if (!column.Nulo(i) && !isTitle(rows, i) &&
+            __builtin_add_overflow(sum.Unidades, column.Unidades(i), &sum.Unidades))
+            return "—"; // no sum is better than a wrong one
+    return host::FormatarNumero(sum, field.FormatoExibicao);
+}
+
+Column load(const host::TDataSet& rows, const ShownColumn& shown) {
+    Column column{&shown, rows.FindField(shown.field), false, length(shown.title), {}, {}};
+    const auto& cells = rows.Colunas()[column.field->Indice()];
+    column.number = cells.Descricao().Tipo != host::TTipoColuna::Texto;
+    for (std::size_t i = 0; i < rows.RecordCount(); ++i) {
+        auto text = displayText(*column.field, cells.Valor(rows.LinhaDe(i)));
+        if (shown.zeroIsBlank && text == "0")
+            text.clear();
+        column.width = std::max(column.width, length(text));
+        column.cells.push_back(std::move(text));
+    }
+    column.total = totalOf(rows, *column.field);
+    column.width = std::max(column.width, length(column.total));
+    return column;
+}
+
+bool empty(const Column& column) {
+    return column.shown->zeroIsBlank &&
+           std::all_of(column.cells.begin(), column.cells.end(), [](const auto& cell) { return cell.empty(); });
+}
+
+std::size_t lineWidth(const std::vector<Column>& columns) {
+    std::size_t width = 0;
+    for (const auto& column : columns)
+        width += 1 + (column.shown->stretches ? std::min(column.width, LeastStretch) : column.width);
+    return width == 0 ? 0 : width - 1;
+}
+
+// Leaves out what the width has no room for; returns its titles.
+std::string fit(std::vector<Column>& columns, std::size_t width) {
+    std::string left;
+    while (lineWidth(columns) > width) {
+        const auto last = std::max_element(columns.begin(), columns.end(), [](const Column& a, const Column& b) {
+            return a.shown->rank < b.shown->rank;
+        });
+        if (last->shown->rank == 0)
+            break;
+        left += (left.empty() ? "" : ", ") + std::string(last->shown->title);
+        columns.erase(last);
+    }
+    const auto used = lineWidth(columns);
+    for (auto& column : columns)
+        if (column.shown->stretches) {
+            const auto least = std::min(column.width, LeastStretch);
+            column.width = std::min(column.width, least + (width > used ? width - used : 0));
+        }
+    return left;
+}
+
+void writeLine(std::ostream& out, const std::vector<Column>& columns,
+               const std::function<std::string_view(const Column&)>& text) {
+    std::string line;
+    for (const auto& column : columns) {
+        const auto shown = cut(text(column), column.width);
+        const std::string blanks(column.width - length(shown), ' ');
+        line += (line.empty() ? "" : " ") + (column.number ? blanks + shown : shown + blanks);
+    }
+    line.erase(line.find_last_not_of(' ') + 1);
+    out << line << '\n';
+}
+
+} // namespace
+
+std::string displayText(const host::TField& field, const host::TValor& value) {
+    if (const auto* decimal = std::get_if<host::TDecimal>(&value))
+        return decimal->Escala == 0 && field.FormatoExibicao.empty()
+                   ? decimal->Texto() // a code: no thousands points
+                   : host::FormatarNumero(*decimal, field.FormatoExibicao);
+    if (const auto* date = std::get_if<host::TDataHora>(&value))
+        return date->Texto();
+    return TextoDe(value);
+}
+
+void writeTable(std::ostream& out, const host::TDataSet& rows, std::span<const ShownColumn> shown, std::size_t width,
+                bool bold) {
+    std::vector<Column> columns;
+    for (const auto& column : shown)
+        if (auto loaded = load(rows, column); !empty(loaded))
+            columns.push_back(std::move(loaded));
+    const auto left = fit(columns, width);
+    writeLine(out, columns, [](const Column& c) { return c.shown->title; });
+    writeLine(out, columns, [line = std::string()](const Column& c) mutable {
+        line.clear();
+        for (std::size_t i = 0; i < c.width; ++i)
+            line += "─";
+        return std::string_view(line);
+    });
+    for (std::size_t i = 0; i < rows.RecordCount(); ++i) {
+        const bool title = bold && isTitle(rows, rows.LinhaDe(i));
+        out << (title ? "\033[1m" : "");
+        writeLine(out, columns, [i](const Column& c) { return std::string_view(c.cells[i]); });
+        out << (title ? "\033[0m" : "");
+    }
+    writeLine(out, columns, [](const Column& c) {
+        return c.shown->stretches ? std::string_view("Total das contas analíticas") : std::string_view(c.total);
+    });
+    out << '\n' << rows.RecordCount() << (rows.RecordCount() == 1 ? " linha." : " linhas.");
+    if (!left.empty())
+        out << " Não couberam: " << left << " (--formato csv mostra todas as colunas).";
+    out << '\n';
+}
+
+} // namespace suite::script

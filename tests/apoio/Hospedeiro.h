@@ -1,0 +1,34 @@
+#pragma once
+
+#include "host/Empresa.h"
+#include "host/Formularios.h"
+#include "host/Interacao.h"
+#include "host/Servicos.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace apoio {
+
+// A host that keeps what the module tells and answers from a queue.
+class Interacao : public host::TInteracao {
+  public:
+    std::vector<std::string> mensagens;
+    std::vector<host::TEventoProgresso> progresso;
+    bool cancelado = false;
+    std::function<void(host::TFormZTTandorPadraoResult&)> aoMostrar;
+
+    int Mensagem(const host::TMensagem& mensagem) override {
+        mensagens.push_back(mensagem.Texto);
+        return 6;
+    }
+    void Progresso(const host::TEventoProgresso& evento) override { progresso.push_back(evento); }
+    bool ProgressoCancelado() override { return cancelado; }
+    void MostrarModal(host::TFormZTTandorPadraoResult& form) override { aoMostrar(form); }
+    void Focar(host::TControle& controle) override { foco = controle.Nome(); }
+    void ProcessarMensagens() override {}
+    std::string foco;
+};
+
+} // namespace apoio

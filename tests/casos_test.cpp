@@ -1,0 +1,176 @@
+// Runs the case files: data, commands of the real program, and everything it prints, to the letter.
+//
+//   # what the case shows
+//   [base] vazia | demo | nenhuma
+//   [dados]             SQL run before the commands
+//   [comando] ...       one command line; @BANCO@ is the database, @PASTA@ a folder of the case
+//   [saida] [erro]      what it prints; absent: nothing. "..." alone on a line stands for any lines
+//   [codigo] N
+//   [arquivo] NOME      the text of a file that the command wrote into the folder
+#include "apoio/Bases.h"
+
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <fstream>
+#include <optional>
+#include <sstream>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Comando {
+    std::string linha;
+    std::string saida;
+    std::string erro;
+    std::optional<int> codigo;
+    std::vector<std::pair<std::string, std::string>> arquivos;
+};
+
+struct Caso {
+    std::string base;
+    std::string dados;
+    std::vector<Comando> comandos;
+};
+
+std::string ler(const fs::path& arquivo) {
+    std::ifstream entrada(arquivo, std::ios::binary);
+    std::stringstream texto;
+    texto << entrada.rdbuf();
+    return texto.str();
+}
+
+Caso lerCaso(const fs::path& arquivo) {
+    Caso caso;
+    std::string* secao = nullptr;
+    std::istringstream texto(ler(arquivo));
+    for (std::string linha; std::getline(texto, linha);) {
+        const auto fim = linha.starts_with('[') ? linha.find(']') : std::string::npos;
+        if (fim == std::string::npos) {
+            if (secao)
+                *secao += linha + "\n";
+            continue;
+        }
+        const auto nome = linha.substr(1, fim - 1);
+        const auto resto = linha.size() > fim + 2 ? linha.substr(fim + 2) : std::string();
+        if (nome == "base") {
+            caso.base = resto;
+            secao = nullptr;
+        } else if (nome == "dados") {
+            secao = &caso.dados;
+        } else if (nome == "comando") {
+            caso.comandos.push_back({resto, {}, {}, {}, {}});
+            secao = nullptr;
+        } else if (caso.comandos.empty()) {
+            throw std::runtime_error("[" + nome + "] before a command");
+        } else if (nome == "saida") {
+            secao = &caso.comandos.back().saida;
+        } else if (nome == "erro") {
+            secao = &caso.comandos.back().erro;
+        } else if (nome == "codigo") {
+            caso.comandos.back().codigo = std::stoi(resto);
+            secao = nullptr;
+        } else if (nome == "arquivo") {
+            secao = &caso.comandos.back().arquivos.emplace_back(resto, "").second;
+        } else {
+            throw std::runtime_error("unknown section [" + nome + "]");
+        }
+    }
+    return caso;
+}
+
+std::string trocar(std::string texto, const std::string& de, const std::string& para) {
+    for (std::size_t i = 0; (i = texto.find(de, i)) != std::string::npos; i += para.size())
+        texto.replace(i, de.size(), para);
+    return texto;
+}
+
+// Lines as expected, where "..." matches any number of lines.
+bool confere(std::istringstream esperado, std::istringstream obtido) {
+    std::vector<std::string> e;
+    std::vector<std::string> o;
+    for (std::string linha; std::getline(esperado, linha);)
+        e.push_back(linha);
+    for (std::string linha; std::getline(obtido, linha);)
+        o.push_back(linha);
+    const std::function<bool(std::size_t, std::size_t)> resto = [&](std::size_t i, std::size_t j) {
+        for (; i < e.size() && e[i] != "..."; ++i, ++j)
+            if (j >= o.size() || e[i] != o[j])
+                return false;
+        if (i == e.size())
+            return j == o.size();
+        for (std::size_t k = j; k <= o.size(); ++k)
+            if (resto(i + 1, k))
+                return true;
+        return false;
+    };
+    return resto(0, 0);
+}
+
+int executar(const std::string& linha, const fs::path& saida, const fs::path& erro) {
+    const pid_t filho = ::fork();
+    if (filho == 0) {
+        ::dup2(::open(saida.c_str(), O_CREAT | O_TRUNC | O_WRONLY, 0600), STDOUT_FILENO);
+        ::dup2(::open(erro.c_str(), O_CREAT | O_TRUNC | O_WRONLY, 0600), STDERR_FILENO);
+        const std::string comando = "exec '" ORCREAL_PROGRAMA "' " + linha;
+        ::execl("/bin/sh", "sh", "-c", comando.c_str(), nullptr);
+        ::_exit(127);
+    }
+    int estado = 0;
+    ::waitpid(filho, &estado, 0);
+    return WIFEXITED(estado) ? WEXITSTATUS(estado) : 128 + WTERMSIG(estado);
+}
+
+class TesteDeCaso : public testing::Test {
+  public:
+    explicit TesteDeCaso(fs::path arquivo) : arquivo_(std::move(arquivo)) {}
+
+    void TestBody() override {
+        const auto caso = lerCaso(arquivo_);
+        ASSERT_FALSE(caso.comandos.empty()) << "no command";
+        std::optional<apoio::Copia> copia;
+        if (caso.base != "nenhuma")
+            copia.emplace(caso.base == "demo" ? apoio::Base::Demo : apoio::Base::Vazia);
+        if (!caso.dados.empty())
+            copia->executar(caso.dados);
+        const auto pasta = fs::path(ORCREAL_PASTA_TESTE) / "caso";
+        fs::remove_all(pasta);
+        fs::create_directories(pasta);
+        ::setenv("ORCREAL_SENHA", apoio::credenciais().password.c_str(), 1);
+        const auto preencher = [&](const std::string& texto) {
+            return trocar(trocar(texto, "@BANCO@", copia ? copia->alvo() : "-"), "@PASTA@", pasta.string());
+        };
+        for (const auto& comando : caso.comandos) {
+            SCOPED_TRACE(comando.linha);
+            ASSERT_TRUE(comando.codigo) << "no [codigo] expected";
+            const int codigo = executar(preencher(comando.linha), pasta / ".saida", pasta / ".erro");
+            comparar(preencher(comando.saida), ler(pasta / ".saida"), "saida");
+            comparar(preencher(comando.erro), ler(pasta / ".erro"), "erro");
+            EXPECT_EQ(*comando.codigo, codigo);
+            for (const auto& [nome, texto] : comando.arquivos)
+                comparar(preencher(texto), ler(pasta / nome), nome);
+        }
+    }
+
+  private:
+    static void comparar(const std::string& esperado, const std::string& obtido, const std::string& nome) {
+        EXPECT_TRUE(confere(std::istringstream(esperado), std::istringstream(obtido)))
+            << "[" << nome << "] expected:\n" << esperado << "[" << nome << "] got:\n" << obtido;
+    }
+    fs::path arquivo_;
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    for (const auto& item : fs::directory_iterator(ORCREAL_CASOS)) {
+        const auto arquivo = item.path();
+        testing::RegisterTest("Casos", arquivo.stem().c_str(), nullptr, nullptr, __FILE__, __LINE__,
+                              [arquivo]() -> TesteDeCaso* { return new TesteDeCaso(arquivo); });
+    }
+    return RUN_ALL_TESTS();
+}
