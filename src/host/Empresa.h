@@ -42,6 +42,8 @@ class HOST_API TUtilSistema {
     virtual ~TUtilSistema() = default;
     virtual std::int64_t GetIDFilialLogada() const = 0;
     virtual std::int64_t GetIDUsuarioLogado() const = 0;
+    // The folder for what is kept to look into later; it need not exist yet.
+    virtual std::string BuscarPastaPadraoLogSistema() const = 0;
 };
 
 } // namespace host

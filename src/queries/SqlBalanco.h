@@ -5,6 +5,10 @@ namespace pct04618::sql {
 // Base, budget and actual by account and its detail, over the base rows of projections. GROUP BY and ORDER BY go by
 // position, so the order of the columns of each level counts.
 //
+// The last condition says again of the value rows what the first one says of their headers. It changes no line, but
+// without it the outer join in front keeps the optimizer from the index of the value rows, and every consultation
+// reads the whole table.
+//
 // %0:s establishment column, %1:s projection base column, %2:s further projection columns of the inner select,
 // %3:s and %4:s projection columns of the middle and of the outer select, %5:s grouping, %6:s keys of the projections,
 // %7:d scenario, %8:s establishment, %9:s cost centre and %10:s account condition.
@@ -91,6 +95,7 @@ SELECT ORCADO2.FILIAL,
                    AND CO01_CTBORCADAINF.TPCENARIO = %7:d
                    AND CO01_CTBORCADAVLR.IDDEMACTOT IS NULL
                    %8:s%9:s%10:s
+                   AND CO01_CTBORCADAVLR.IDCTBORCADAINF IN (%6:s)
                  %5:s) ORCADO) ORCADO2
  WHERE ORCADO2.VLRBASE <> 0
     OR ORCADO2.VLRORCADO <> 0

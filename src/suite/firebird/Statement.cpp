@@ -1,9 +1,12 @@
+#include "host/Falhas.h"
 #include "suite/firebird/Attachment.h"
 #include "suite/firebird/Charset.h"
 #include "suite/firebird/Cursor.h"
 #include "suite/firebird/Parameters.h"
 #include "suite/firebird/StatementShared.h"
 #include "suite/firebird/Transaction.h"
+
+#include <chrono>
 
 namespace suite::firebird {
 
@@ -64,9 +67,21 @@ void Statement::nameParameters(std::vector<std::string> labels) { labels_ = std:
 void Statement::execute(Transaction& transaction, std::span<const host::TValor> parameters) {
     auto message = inputMessage(shared_->input.get(), parameters, shared_->name, labels_);
     shared_->transaction = &transaction;
-    call(shared_->name, [&](auto* status) {
-        shared_->handle->execute(status, transaction.handle(), shared_->input.get(), message.data(), nullptr, nullptr);
-    });
+    // The engine waits for another's lock, but when the other commits it gives up instead of going on with what was
+    // committed. The failed statement has left nothing, so it may run again as long as the wait would have lasted.
+    const auto end = std::chrono::steady_clock::now() + LockTimeout - std::chrono::seconds(1); // the clocks differ
+    for (;;) {
+        try {
+            call(shared_->name, [&](auto* status) {
+                shared_->handle->execute(status, transaction.handle(), shared_->input.get(), message.data(), nullptr,
+                                         nullptr);
+            });
+            return;
+        } catch (const host::TFalhaBanco& failure) {
+            if (failure.Tipo() != host::TTipoFalhaBanco::Bloqueio || std::chrono::steady_clock::now() >= end)
+                throw;
+        }
+    }
 }
 
 std::uint64_t Statement::affectedRows() const {

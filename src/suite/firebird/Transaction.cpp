@@ -10,13 +10,11 @@ namespace suite::firebird {
 
 namespace {
 
-constexpr unsigned char LockTimeoutSeconds = 10;
-
 constexpr std::array<unsigned char, 5> ReadOnlyBlock{isc_tpb_version3, isc_tpb_read, isc_tpb_read_committed,
                                                      isc_tpb_rec_version, isc_tpb_nowait};
 constexpr std::array<unsigned char, 8> ReadWriteBlock{isc_tpb_version3,    isc_tpb_write, isc_tpb_read_committed,
                                                       isc_tpb_rec_version, isc_tpb_wait,  isc_tpb_lock_timeout,
-                                                      1,                   LockTimeoutSeconds};
+                                                      1,                   static_cast<unsigned char>(LockTimeout.count())};
 
 } // namespace
 

@@ -2,9 +2,14 @@
 
 #include "suite/firebird/Api.h"
 
+#include <chrono>
+
 namespace suite::firebird {
 
 class Attachment;
+
+// How long a write waits for another's lock.
+inline constexpr std::chrono::seconds LockTimeout{10};
 
 enum class TransactionMode {
     ReadOnly,  // read committed, holds nothing

@@ -3,6 +3,7 @@
 #include "host/DbManager.h"
 #include "host/Falhas.h"
 #include "host/Texto.h"
+#include "suite/program/UserFolder.h"
 
 namespace suite::program {
 
@@ -39,7 +40,11 @@ std::int64_t find(const std::string& table, const std::string& key, const std::s
 
 } // namespace
 
-Login::Login(const LoginRequest& request) {
+Login::Login(const LoginRequest& request) : logFolder_(request.logFolder) {
+    if (logFolder_.empty())
+        logFolder_ = userFolder("XDG_STATE_HOME", ".local/state").string();
+    else if (!std::filesystem::is_directory(logFolder_))
+        throw host::TFalha("A pasta de log \"" + logFolder_ + "\" não existe. Crie-a ou indique outra.");
     const auto company = find("SC00_EMPRESA", "IDEMPRESA", "EMPRESA", "", request.company, "empresa");
     if (company == 0)
         throw host::TFalha("O banco de dados não tem nenhuma empresa cadastrada.");

@@ -13,6 +13,7 @@ struct LoginRequest {
     std::optional<std::int64_t> company;       // SC00_EMPRESA.EMPRESA
     std::optional<std::int64_t> establishment; // SC00_FILIAL.FILIAL, inside the company
     std::optional<std::int64_t> user;          // US09_USUARIO.CODIGO
+    std::string logFolder;                     // empty: a folder of the user's
 };
 
 // The logged company, establishment and user, and what the suite knows of companies. Reads through the host's
@@ -30,6 +31,7 @@ class Login final : public host::TZTEmpresaLogada, public host::TUtilContabil, p
     bool BuscarEmpresaUtilizaCtbPorCentroCusto(std::int64_t company) const override;
     std::int64_t GetIDFilialLogada() const override { return establishment_; }
     std::int64_t GetIDUsuarioLogado() const override { return user_; }
+    std::string BuscarPastaPadraoLogSistema() const override { return logFolder_; }
 
     const host::TDadosEmpresa& company() const { return company_; }
 
@@ -39,6 +41,7 @@ class Login final : public host::TZTEmpresaLogada, public host::TUtilContabil, p
     host::TDadosEmpresa company_;
     std::int64_t establishment_ = 0;
     std::int64_t user_ = 0;
+    std::string logFolder_;
 };
 
 } // namespace suite::program

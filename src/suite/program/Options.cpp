@@ -1,6 +1,7 @@
 #include "suite/program/Options.h"
 
 #include "host/Falhas.h"
+#include "suite/program/UserFolder.h"
 
 #include <CLI/CLI.hpp>
 
@@ -29,21 +30,9 @@ std::string readPassword(const std::string& file) {
     return line;
 }
 
-// The library's complaints are English; these say what to do.
-std::string complaint(const CLI::App& app, const CLI::ParseError& error) {
-    const std::string name = error.get_name();
-    std::string text;
-    if (name == "ExtrasError")
-        text = "Opção ou comando desconhecido: " +
-               std::string(error.what()).substr(std::string(error.what()).rfind(": ") + 2) + ".";
-    else if (name == "FileError" || name == "ConfigError" || name == "INIError")
-        text = "O arquivo de opções não pôde ser lido: " + std::string(error.what()) + ".";
-    else if (name == "ArgumentMismatch")
-        text = "Falta o valor de uma opção: " +
-               std::string(error.what()).substr(0, std::string(error.what()).find(':')) + ".";
-    else
-        text = "Valor inválido: " + std::string(error.what()) + ".";
-    return text + " Veja \"" + app.get_name() + " --ajuda\".\n";
+std::string behind(const std::string& text, const std::string& mark) {
+    const auto position = text.rfind(mark);
+    return position == std::string::npos ? text : text.substr(position + mark.size());
 }
 
 CLI::Validator oneOf(std::vector<std::string> values) {
@@ -55,7 +44,7 @@ CLI::Validator oneOf(std::vector<std::string> values) {
                            ? std::string()
                            : "\"" + given + "\" não é um de " + list;
             },
-            list};
+            ""};
 }
 
 CLI::Validator number(std::int64_t least, std::int64_t most) {
@@ -67,29 +56,27 @@ CLI::Validator number(std::int64_t least, std::int64_t most) {
                            : "\"" + given + "\" não é um número de " + std::to_string(least) + " a " +
                                  std::to_string(most);
             },
-            "N"};
+            ""};
 }
 
 constexpr std::int64_t LargestCode = 999'999'999'999;
+
+// The library's complaints are English; ours say what to do.
+ParsedLine wrongUse(const std::string& what) { return {{}, what + ". Veja \"orcreal --ajuda\".\n", true}; }
 
 void translateHelp(CLI::App& app) {
     auto formatter = std::make_shared<CLI::Formatter>();
     formatter->column_width(34);
     for (const auto& [label, text] : {std::pair{"OPTIONS", "OPÇÕES"}, {"SUBCOMMAND", "COMANDO"},
                                       {"SUBCOMMANDS", "COMANDOS"}, {"Usage", "Uso"}, {"TEXT", "TEXTO"},
-                                      {"Options", "Opções"}, {"Subcommands", "Comandos"}, {"Env", "Ambiente"}})
+                                      {"Env", "variável"}})
         formatter->label(label, text);
     app.formatter(formatter);
 }
 
 } // namespace
 
-std::filesystem::path defaultDemoFile() {
-    std::filesystem::path folder = environment("XDG_DATA_HOME");
-    if (folder.empty() || folder.is_relative())
-        folder = std::filesystem::path(environment("HOME")) / ".local" / "share";
-    return folder / "orcreal" / "demonstracao.fdb";
-}
+std::filesystem::path defaultDemoFile() { return userFolder("XDG_DATA_HOME", ".local/share") / "demonstracao.fdb"; }
 
 ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string& version) {
     Options options;
@@ -99,59 +86,81 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
 
     CLI::App app("Orçado x realizado: compara o que as projeções orçaram com o que o diário contabilizou.", "orcreal");
     translateHelp(app);
-    app.set_help_flag("-h,--help,--ajuda", "mostra esta ajuda");
-    app.set_version_flag("--version,--versao", version, "mostra a versão");
-    app.set_config("--config", "", "arquivo com as mesmas opções, uma por linha (chave = valor)");
+    app.option_defaults()->group("Opções gerais");
+    app.set_help_flag("-h,--help,--ajuda", "mostra esta ajuda")->group("Opções gerais");
+    app.set_version_flag("--version,--versao", version, "mostra a versão")->group("Opções gerais");
+    app.set_config("--config", "", "arquivo com as mesmas opções (chave = valor)")
+        ->type_name("F")
+        ->group("Opções gerais");
+    app.allow_config_extras(CLI::config_extras_mode::error);
     app.require_subcommand(0, 1);
     app.fallthrough();
-    app.add_option("--banco", options.database,
-                   "banco de dados: um arquivo, ou servidor/porta:caminho de um servidor Firebird; sem ela, o banco de "
-                   "demonstração")
+    app.add_option("--banco", options.database, "arquivo, ou servidor/porta:caminho; sem ela, o banco de demonstração")
         ->envname("ORCREAL_BANCO")
         ->type_name("ALVO");
     app.add_option("--usuario-banco", options.credentials.user, "usuário do banco de dados")->type_name("U");
-    app.add_option("--senha-arquivo", passwordFile,
-                   "arquivo cuja primeira linha é a senha do banco (ou a variável ORCREAL_SENHA)")
+    app.add_option("--senha-arquivo", passwordFile, "a senha na primeira linha de F (ou em ORCREAL_SENHA)")
         ->type_name("F");
-    app.add_option("--empresa", options.login.company, "empresa logada, pelo código")->check(number(0, LargestCode));
-    app.add_option("--filial", options.login.establishment, "estabelecimento logado, pelo número")
+    app.add_option("--empresa", options.login.company, "empresa logada, pelo código (padrão: a menor)")
+        ->type_name("N")
         ->check(number(0, LargestCode));
-    app.add_option("--usuario", options.login.user, "usuário logado, pelo código")->check(number(0, LargestCode));
+    app.add_option("--filial", options.login.establishment, "estabelecimento logado, pelo número (padrão: o menor)")
+        ->type_name("N")
+        ->check(number(0, LargestCode));
+    app.add_option("--usuario", options.login.user, "usuário logado, pelo código (padrão: o menor)")
+        ->type_name("N")
+        ->check(number(0, LargestCode));
+    app.add_option("--pasta-log", options.login.logFolder, "pasta de log do hospedeiro")->type_name("D");
 
     auto* consultCommand = app.add_subcommand("consultar", "faz uma consulta e mostra suas linhas");
-    consultCommand
-        ->add_option("--visualizar", "base da consulta: o plano de contas")
+    consultCommand->add_option("--visualizar", consult.view, "balanco: sobre o plano de contas (padrão)")
+        ->type_name("V")
         ->check(oneOf({"balanco"}));
     consultCommand
-        ->add_option("--modo", consult.mode,
-                     "1 agrupando períodos intermediários, 2 pesquisando período exato (padrão 1)")
+        ->add_option("--modo", consult.mode, "1 agrupando períodos intermediários (padrão), 2 período exato")
+        ->type_name("M")
         ->check(oneOf({"1", "2"}));
     consultCommand->add_option("--de", consult.from, "data inicial, o primeiro dia de um mês")->type_name("dd/mm/aaaa");
     consultCommand->add_option("--ate", consult.to, "data final, o último dia de um mês")->type_name("dd/mm/aaaa");
-    consultCommand->add_option("--cenario", consult.scenario, "0 normal, 1 otimista, 2 pessimista (padrão 0)")
+    consultCommand->add_option("--cenario", consult.scenario, "0 normal (padrão), 1 otimista, 2 pessimista")
+        ->type_name("N")
         ->check(oneOf({"0", "1", "2"}));
     consultCommand->add_flag("--agrupar", consult.groupEstablishments, "soma os estabelecimentos numa linha");
-    consultCommand->add_option("--formato", consult.format, "tabela, csv ou json (padrão tabela)")
+    consultCommand->add_option("--formato", consult.format, "tabela (padrão), csv ou json")
+        ->type_name("T")
         ->check(oneOf({"tabela", "csv", "json"}));
-    consultCommand->add_option("--saida", consult.output, "arquivo que recebe o resultado")->type_name("F");
+    consultCommand->add_option("--saida", consult.output, "grava o resultado no arquivo F")->type_name("F");
 
     auto* demoCommand = app.add_subcommand("demo", "cria o banco de dados de demonstração");
-    demoCommand->add_option("--destino", demo.destination, "arquivo a criar; sem ela, na pasta de dados do usuário")
+    demoCommand->add_option("--destino", demo.destination, "arquivo a criar (padrão: na pasta de dados do usuário)")
         ->type_name("F");
-    demoCommand->add_option("--escala", demo.scale, "multiplica projeções, contas e diário")->check(number(1, 1000));
+    demoCommand->add_option("--escala", demo.scale, "multiplica projeções, contas e diário (padrão 1)")
+        ->type_name("N")
+        ->check(number(1, 1000));
     for (auto* command : {consultCommand, demoCommand}) {
-        command->set_help_flag("-h,--help,--ajuda", "mostra esta ajuda");
+        command->group("Comandos");
+        command->set_help_flag("-h,--help,--ajuda", "mostra esta ajuda")->group("Opções do comando");
         command->formatter(app.get_formatter());
+        for (auto* option : command->get_options())
+            option->group("Opções do comando");
     }
 
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
-        return {{}, app.help(), false};
+        return {{}, app.help(), false}; // of the command, where one stands before it
     } catch (const CLI::CallForVersion&) {
         return {{}, version + "\n", false};
+    } catch (const CLI::ExtrasError& error) {
+        return wrongUse("Opção ou comando desconhecido: " + behind(error.what(), ": "));
+    } catch (const CLI::FileError&) {
+        return wrongUse("O arquivo de opções " + app.get_config_ptr()->as<std::string>() + " não pôde ser lido");
+    } catch (const CLI::ConfigError& error) {
+        return wrongUse("O arquivo de opções tem uma linha que não se entende: " + behind(error.what(), ": "));
+    } catch (const CLI::ArgumentMismatch& error) {
+        return wrongUse("Falta o valor da opção " + std::string(error.what()).substr(0, std::string(error.what()).find(':')));
     } catch (const CLI::ParseError& error) {
-        return {{}, complaint(app, error), true};
+        return wrongUse("Valor inválido em " + std::string(error.what()));
     }
     options.credentials.password = readPassword(passwordFile);
     if (consultCommand->parsed())

@@ -9,6 +9,7 @@
 namespace suite::program {
 
 struct ConsultOptions {
+    std::string view = "balanco";
     std::string mode = "1";
     std::string from;
     std::string to;

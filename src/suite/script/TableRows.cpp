@@ -8,7 +8,7 @@ namespace suite::script {
 
 namespace {
 
-constexpr std::size_t LeastStretch = 28;
+constexpr std::size_t LeastStretch = 24;
 
 // Characters of a UTF-8 text; all that the database holds is one column wide.
 std::size_t length(std::string_view text) {
@@ -53,14 +53,18 @@ std::string totalOf(const host::TDataSet& rows, const host::TField& field) {
     return host::FormatarNumero(sum, field.FormatoExibicao);
 }
 
+bool isZero(const host::TValor& value) {
+    const auto* number = std::get_if<host::TDecimal>(&value);
+    return number ? number->Zero() : TextoDe(value) == "0";
+}
+
 Column load(const host::TDataSet& rows, const ShownColumn& shown) {
     Column column{&shown, rows.FindField(shown.field), false, length(shown.title), {}, {}};
     const auto& cells = rows.Colunas()[column.field->Indice()];
     column.number = cells.Descricao().Tipo != host::TTipoColuna::Texto;
     for (std::size_t i = 0; i < rows.RecordCount(); ++i) {
-        auto text = displayText(*column.field, cells.Valor(rows.LinhaDe(i)));
-        if (shown.zeroIsBlank && text == "0")
-            text.clear();
+        const auto value = cells.Valor(rows.LinhaDe(i));
+        auto text = shown.zeroIsBlank && isZero(value) ? std::string() : displayText(*column.field, value);
         column.width = std::max(column.width, length(text));
         column.cells.push_back(std::move(text));
     }
@@ -70,8 +74,7 @@ Column load(const host::TDataSet& rows, const ShownColumn& shown) {
 }
 
 bool empty(const Column& column) {
-    return column.shown->zeroIsBlank &&
-           std::all_of(column.cells.begin(), column.cells.end(), [](const auto& cell) { return cell.empty(); });
+    return std::all_of(column.cells.begin(), column.cells.end(), [](const auto& cell) { return cell.empty(); });
 }
 
 std::size_t lineWidth(const std::vector<Column>& columns) {

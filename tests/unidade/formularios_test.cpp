@@ -1,0 +1,126 @@
+#include "apoio/Hospedeiro.h"
+#include "host/Dialogos.h"
+#include "host/Falhas.h"
+#include "host/Registro.h"
+#include "suite/program/Module.h"
+#include "suite/script/FormDriver.h"
+#include "suite/script/Headless.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace {
+
+class Form : public host::TForm {
+  public:
+    Form() : TForm("Form", "Título") {
+        Registrar({&Data, &A, &B, &Combo, &Recusar});
+        A.OnClick = [this] {
+            if (A.Checked())
+                B.SetChecked(false);
+        };
+        B.OnClick = [this] {
+            if (B.Checked())
+                A.SetChecked(false);
+        };
+        Combo.SetItens({"um", "dois"}, {"1", "2"});
+    }
+    void ValidarCampos(host::TControle* sender) override {
+        if (sender == &Data && Data.Date().Vazia())
+            throw host::Abort();
+    }
+    host::TZTDateEdit Data{"Data"};
+    host::TZTCheckBox A{"A"};
+    host::TZTCheckBox B{"B"};
+    host::TZTComboBox Combo{"Combo"};
+    host::TAction Recusar{"Recusar", [] { throw host::Abort(); }};
+};
+
+} // namespace
+
+TEST(Controles, MarcarCorreARegraSoQuandoOEstadoMuda) {
+    Form form;
+    int cliques = 0;
+    form.B.AoMudar([&] { ++cliques; });
+    form.B.SetChecked(true);
+    form.A.SetChecked(true);
+    EXPECT_FALSE(form.B.Checked()) << "the rule of A ran inside the write";
+    form.A.SetChecked(true);
+    EXPECT_EQ(2, cliques);
+    form.Combo.SetValorSelecionado("2");
+    EXPECT_EQ(1, form.Combo.ItemIndex());
+    form.Combo.SetValorSelecionado("9");
+    EXPECT_EQ("", form.Combo.GetValorSelecionado());
+    form.Data.SetTexto("31/02/2024");
+    EXPECT_TRUE(form.Data.Date().Vazia());
+    EXPECT_FALSE(form.Data.EmBranco()) << "what was typed stays";
+    form.Data.SetTexto("");
+    EXPECT_TRUE(form.Data.EmBranco());
+}
+
+TEST(FormDriver, FazOQueOUsuarioPodeENadaMais) {
+    Form form;
+    suite::script::FormDriver usuario(form);
+    bool saiu = false;
+    form.Data.OnExit = [&] { saiu = true; };
+    usuario.leave("Data");
+    EXPECT_FALSE(saiu) << "a refused validation ends before the exit event, without a failure";
+    usuario.define("Data", "01/02/2024");
+    usuario.leave("Data");
+    EXPECT_TRUE(saiu);
+    usuario.click("Recusar");
+    form.A.SetEnabled(false);
+    EXPECT_THROW(usuario.define("A", "1"), host::TFalha);
+    EXPECT_THROW(usuario.define("B", "sim"), host::TFalha);
+    EXPECT_THROW(usuario.define("Combo", "3"), host::TFalha);
+    try {
+        usuario.define("Nada", "1");
+        FAIL();
+    } catch (const host::TFalha& falha) {
+        EXPECT_STREQ("Form não tem \"Nada\". Existem: Data, A, B, Combo, Recusar.", falha.what());
+    }
+}
+
+TEST(BarraProgresso, ContaTudoAoHospedeiroEFechaNaFalha) {
+    apoio::Interacao interacao;
+    host::TServicos servicos;
+    servicos.Interacao = &interacao;
+    const host::TInstalacaoServicos instalados(servicos);
+    try {
+        host::TZTBarraProgressoDlg dialogo(2);
+        dialogo.MostrarBarraProgresso();
+        dialogo.BuscarBarraProgresso(1).SetValorMaximo(6);
+        dialogo.BuscarBarraProgresso(1).AvancarProgresso(0);
+        dialogo.BuscarBarraProgresso(1).AvancarProgresso(0);
+        EXPECT_THROW(dialogo.BuscarBarraProgresso(2), std::out_of_range);
+        throw host::TFalha("falha");
+    } catch (const host::TFalha&) {
+    }
+    ASSERT_EQ(5U, interacao.progresso.size());
+    EXPECT_EQ(2, interacao.progresso[3].Valor);
+    EXPECT_EQ(host::TEventoProgresso::TTipo::Fechar, interacao.progresso.back().Tipo);
+}
+
+TEST(Headless, PerguntaSemRespostaEhFalha) {
+    std::ostringstream erro;
+    suite::script::Headless interacao(erro, false);
+    EXPECT_EQ(6, interacao.Mensagem({host::TNivelMensagem::Informacao, "", "linha\rseguinte", {"OK"}, 6}));
+    EXPECT_EQ("linha\nseguinte\n", erro.str());
+    EXPECT_THROW(interacao.Mensagem({host::TNivelMensagem::Confirmacao, "", "Sim?", {"Sim", "Não"}, 6}), host::TFalha);
+    interacao.Progresso({host::TEventoProgresso::TTipo::Texto, 0, "texto", 0});
+    EXPECT_EQ(std::string::npos, erro.str().find("texto")) << "no progress outside a terminal";
+}
+
+TEST(Modulo, RegistraSuaClasseEnquantoCarregado) {
+    ASSERT_FALSE(host::FindClass("TForm04618"));
+    {
+        const suite::program::Module modulo(ORCREAL_MODULO);
+        EXPECT_EQ("5.40", modulo.versionRecord("MinVersionDatabase"));
+        EXPECT_EQ("Pct04618", modulo.information().Nome);
+        EXPECT_EQ("Consultas e relatórios Orçamento x Realizado", modulo.information().Descricao);
+        EXPECT_TRUE(host::FindClass("TForm04618"));
+    }
+    EXPECT_FALSE(host::FindClass("TForm04618")) << "unloading unregisters";
+    EXPECT_THROW(suite::program::Module("/nada/Pct04618.so"), host::TFalha);
+}
