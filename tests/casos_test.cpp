@@ -2,7 +2,7 @@
 //
 //   # what the case shows
 //   [base] vazia | demo | nenhuma
-//   [dados]             SQL run before the commands
+//   [dados] FILE        SQL run before the commands: a file beside the cases, if named, and what follows
 //   [comando] ...       one command line; @BANCO@ is the database, @PASTA@ a folder of the case
 //   [saida] [erro]      what it prints; absent: nothing. "..." alone on a line stands for any lines
 //   [codigo] N
@@ -14,6 +14,7 @@
 #include <fcntl.h>
 #include <fstream>
 #include <optional>
+#include <regex>
 #include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -48,18 +49,20 @@ Caso lerCaso(const fs::path& arquivo) {
     std::string* secao = nullptr;
     std::istringstream texto(ler(arquivo));
     for (std::string linha; std::getline(texto, linha);) {
-        const auto fim = linha.starts_with('[') ? linha.find(']') : std::string::npos;
-        if (fim == std::string::npos) {
+        std::smatch partes;
+        if (!std::regex_match(linha, partes, std::regex(R"(\[([a-z]+)\] ?(.*))"))) {
             if (secao)
                 *secao += linha + "\n";
             continue;
         }
-        const auto nome = linha.substr(1, fim - 1);
-        const auto resto = linha.size() > fim + 2 ? linha.substr(fim + 2) : std::string();
+        const auto nome = partes[1].str();
+        const auto resto = partes[2].str();
         if (nome == "base") {
             caso.base = resto;
             secao = nullptr;
         } else if (nome == "dados") {
+            if (!resto.empty())
+                caso.dados = ler(arquivo.parent_path() / resto);
             secao = &caso.dados;
         } else if (nome == "comando") {
             caso.comandos.push_back({resto, {}, {}, {}, {}});
@@ -169,6 +172,8 @@ int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     for (const auto& item : fs::directory_iterator(ORCREAL_CASOS)) {
         const auto arquivo = item.path();
+        if (arquivo.extension() != ".caso")
+            continue;
         testing::RegisterTest("Casos", arquivo.stem().c_str(), nullptr, nullptr, __FILE__, __LINE__,
                               [arquivo]() -> TesteDeCaso* { return new TesteDeCaso(arquivo); });
     }

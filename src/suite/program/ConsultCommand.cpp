@@ -2,6 +2,7 @@
 
 #include "host/Falhas.h"
 #include "host/Registro.h"
+#include "host/Texto.h"
 #include "suite/script/FormDriver.h"
 #include "suite/script/Rows.h"
 
@@ -70,7 +71,7 @@ void fillIn(script::FormDriver& dialog, const ConsultOptions& options) {
 
 std::string itemOf(const host::TForm& dialog, const char* combo) {
     const auto& control = dynamic_cast<const host::TZTComboBox&>(dialog.Controle(combo));
-    return control.Itens()[static_cast<std::size_t>(control.ItemIndex())];
+    return host::Trim(control.Itens()[static_cast<std::size_t>(control.ItemIndex())]);
 }
 
 std::string heading(const host::TForm& dialog, const ConsultOptions& options, const Login& login) {

@@ -97,6 +97,7 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
     app.fallthrough();
     app.add_option("--banco", options.database, "arquivo, ou servidor/porta:caminho; sem ela, o banco de demonstração")
         ->envname("ORCREAL_BANCO")
+        ->check(CLI::Validator([](std::string& given) { return given.empty() ? "está vazio" : std::string(); }, ""))
         ->type_name("ALVO");
     app.add_option("--usuario-banco", options.credentials.user, "usuário do banco de dados")->type_name("U");
     app.add_option("--senha-arquivo", passwordFile, "a senha na primeira linha de F (ou em ORCREAL_SENHA)")

@@ -15,20 +15,31 @@ std::string quoteCsv(const std::string& text) {
     return quoted + '"';
 }
 
-// With the decimals of the field's format where that loses nothing, else with all that the database holds.
-std::string number(const host::TDecimal& value, const std::string& format) {
-    const auto point = format.find('.');
-    const int places = format.empty() ? value.Escala
-                       : point == std::string::npos ? 0
-                                                    : static_cast<int>(format.size() - point - 1);
-    auto text = (value.ComEscala(places) == value ? value.ComEscala(places) : value).Texto();
-    std::replace(text.begin(), text.end(), '.', ',');
-    return text;
+// Decimal places of a number column: those of its format, or as many more as its values need to lose nothing.
+int placesOf(const host::TDataSet& rows, const host::TField& field) {
+    const auto point = field.FormatoEdicao.find('.');
+    const int scale = field.Descricao().Escala;
+    int places = point == std::string::npos ? 0 : static_cast<int>(field.FormatoEdicao.size() - point - 1);
+    const auto& column = rows.Colunas()[field.Indice()];
+    for (std::size_t i = 0; i < column.Tamanho(); ++i) {
+        const host::TDecimal value{column.Nulo(i) ? 0 : column.Unidades(i), scale};
+        while (places < scale && !(value.ComEscala(places) == value))
+            ++places;
+    }
+    return places;
 }
 
-std::string cell(const host::TField& field, const host::TValor& value) {
-    if (const auto* decimal = std::get_if<host::TDecimal>(&value))
-        return number(*decimal, field.FormatoEdicao);
+struct Column {
+    const host::TField* field;
+    int places;
+};
+
+std::string cell(const Column& column, const host::TValor& value) {
+    if (const auto* decimal = std::get_if<host::TDecimal>(&value)) {
+        auto text = decimal->ComEscala(column.places).Texto();
+        std::replace(text.begin(), text.end(), '.', ',');
+        return text;
+    }
     if (const auto* date = std::get_if<host::TDataHora>(&value))
         return date->Texto();
     return quoteCsv(TextoDe(value));
@@ -36,20 +47,22 @@ std::string cell(const host::TField& field, const host::TValor& value) {
 
 } // namespace
 
-void writeCsv(std::ostream& out, const host::TDataSet& rows, std::span<const ShownColumn> columns) {
-    std::vector<const host::TField*> fields;
-    for (const auto& column : columns) {
-        out << (fields.empty() ? "" : ";") << quoteCsv(std::string(column.title));
-        fields.push_back(rows.FindField(column.field));
+void writeCsv(std::ostream& out, const host::TDataSet& rows, std::span<const ShownColumn> shown) {
+    std::vector<Column> columns;
+    for (const auto& column : shown) {
+        out << (columns.empty() ? "" : ";") << quoteCsv(std::string(column.title));
+        const auto* field = rows.FindField(column.field);
+        const bool number = field->Descricao().Tipo == host::TTipoColuna::Inteiro;
+        columns.push_back({field, number ? placesOf(rows, *field) : 0});
     }
-    out << "\r\n";
+    out << '\n';
     for (std::size_t i = 0; i < rows.RecordCount(); ++i) {
         const char* separator = "";
-        for (const auto* field : fields) {
-            out << separator << cell(*field, rows.Colunas()[field->Indice()].Valor(rows.LinhaDe(i)));
+        for (const auto& column : columns) {
+            out << separator << cell(column, rows.Colunas()[column.field->Indice()].Valor(rows.LinhaDe(i)));
             separator = ";";
         }
-        out << "\r\n";
+        out << '\n';
     }
 }
 

@@ -8,7 +8,7 @@ namespace suite::script {
 
 namespace {
 
-constexpr std::size_t LeastStretch = 24;
+constexpr std::size_t LeastStretch = 25;
 
 // Characters of a UTF-8 text; all that the database holds is one column wide.
 std::size_t length(std::string_view text) {
@@ -131,6 +131,10 @@ std::string displayText(const host::TField& field, const host::TValor& value) {
 
 void writeTable(std::ostream& out, const host::TDataSet& rows, std::span<const ShownColumn> shown, std::size_t width,
                 bool bold) {
+    if (rows.IsEmpty()) {
+        out << "Nenhuma linha com valor.\n";
+        return;
+    }
     std::vector<Column> columns;
     for (const auto& column : shown)
         if (auto loaded = load(rows, column); !empty(loaded))
@@ -150,7 +154,7 @@ void writeTable(std::ostream& out, const host::TDataSet& rows, std::span<const S
         out << (title ? "\033[0m" : "");
     }
     writeLine(out, columns, [](const Column& c) {
-        return c.shown->stretches ? std::string_view("Total das contas analíticas") : std::string_view(c.total);
+        return c.shown->stretches ? std::string_view("Total (contas analíticas)") : std::string_view(c.total);
     });
     out << '\n' << rows.RecordCount() << (rows.RecordCount() == 1 ? " linha." : " linhas.");
     if (!left.empty())
