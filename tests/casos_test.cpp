@@ -3,7 +3,8 @@
 //   # what the case shows
 //   [base] vazia | demo | nenhuma
 //   [dados] FILE        SQL run before the commands: a file beside the cases, if named, and what follows
-//   [comando] ...       one command line; @BANCO@ is the database, @PASTA@ a folder of the case
+//   [comando] ...       one command line; @BANCO@ is the database, @PASTA@ a folder of the case,
+//                       @CASOS@ the folder of the case files
 //   [saida] [erro]      what it prints; absent: nothing. "..." alone on a line stands for any lines
 //   [codigo] N
 //   [arquivo] NOME      the text of a file that the command wrote into the folder
@@ -144,7 +145,8 @@ class TesteDeCaso : public testing::Test {
         fs::create_directories(pasta);
         ::setenv("ORCREAL_SENHA", apoio::credenciais().password.c_str(), 1);
         const auto preencher = [&](const std::string& texto) {
-            return trocar(trocar(texto, "@BANCO@", copia ? copia->alvo() : "-"), "@PASTA@", pasta.string());
+            return trocar(trocar(trocar(texto, "@BANCO@", copia ? copia->alvo() : "-"), "@PASTA@", pasta.string()),
+                          "@CASOS@", ORCREAL_CASOS);
         };
         for (const auto& comando : caso.comandos) {
             SCOPED_TRACE(comando.linha);
