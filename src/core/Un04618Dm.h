@@ -100,6 +100,18 @@ class TDM04618 : public host::TDmZTTandorPadrao {
     void IncrementarBarraProgresso(std::int32_t ANivel, host::TZTBarraProgressoDlg& AZTBarraProgressoDlg);
     // The statement of modes 1 and 2 (queries/). Runs nothing. LListaIDs must not be empty.
     std::string BuscarDadosOrcamentariaComBaseNoBalanco() const;
+    // Mode 3 (queries/): loads the dataset, whose SQL side is ASqlDataSet, with each period as a column and a row for
+    // each line type that is on; at least one must be. AImpPerComMov: periods without a value row have a column too.
+    // LListaIDs must not be empty, and dpVertical is for a configurable statement only. The text stays in the dataset.
+    void BuscarDadosOrcamentariaBalancoOuDemonstConfigDemonstPeriodosEmColunas(host::TZTClientDataSet& ADataSet,
+                                                                               host::TZTSQLDataSet& ASqlDataSet,
+                                                                               bool AImpPerComMov);
+    // Loads the caller's dataset with the headers of LListaIDs: for mode 3 each of them, else their distinct periods in
+    // order.
+    void BuscarCabecalhoOrcamentaria(host::TZTClientDataSet& ADataSet, TDetalharSelecao ADetalharSelecao) const;
+    // Sets the actual value of all rows of the projections (a list for an IN) to 0, and says so. A failure leaves
+    // everything as it was, is shown, and aborts.
+    void RemoverValorRealizado(const std::string& AIDsOrcadaInf);
 
   private:
     void CdsMostraCtbOrcadaAfterOpen(host::TDataSet& ADataSet);

@@ -2,7 +2,6 @@
 #include "core/Un04618Const.h"
 #include "core/Un04618Dm.h"
 #include "host/DbManager.h"
-#include "host/Decimal.h"
 #include "host/Falhas.h"
 #include "host/Servicos.h"
 #include "host/Texto.h"
@@ -19,18 +18,13 @@ constexpr int MaximoAnos = 12;
 
 bool MesmoMes(host::TDataHora A, host::TDataHora B) { return A.Ano() == B.Ano() && A.Mes() == B.Mes(); }
 
-std::int32_t NumeroOuZero(const std::string& ATexto) {
-    const auto LNumero = host::TDecimal::De(ATexto);
-    return LNumero && LNumero->Escala == 0 ? static_cast<std::int32_t>(LNumero->Unidades) : 0;
-}
-
 TInformacoesCtbOrcadaInf LerProjecoes(host::TDataSet& ADataSet) {
     TInformacoesCtbOrcadaInf LInformacoes;
     for (ADataSet.First(); !ADataSet.Eof(); ADataSet.Next()) {
         if (!LInformacoes.LListaIDs.empty())
             LInformacoes.LListaIDs += ", ";
         LInformacoes.LListaIDs += ADataSet.FieldByName("IDCTBORCADAINF").AsString();
-        LInformacoes.TpCCusto = NumeroOuZero(ADataSet.FieldByName("TPCCUSTO").AsString());
+        LInformacoes.TpCCusto = host::NumeroOuZero(ADataSet.FieldByName("TPCCUSTO").AsString());
     }
     LInformacoes.QtdePeriodos = static_cast<std::int32_t>(ADataSet.RecordCount());
     if (LInformacoes.QtdePeriodos == 1) {

@@ -10,6 +10,9 @@
 
 namespace host {
 
+// Keys to which rules answer.
+enum class TTecla { Enter, Baixo, F11, Esc };
+
 // A control is a named holder of state that tells its listeners when it changes. Setting a state that it already has
 // tells nobody and runs nothing. Widgets and scripts know a control by name and kind alone.
 class HOST_API TControle {
@@ -28,6 +31,9 @@ class HOST_API TControle {
     void SetCaption(std::string ATexto) { Mudar(FCaption, std::move(ATexto)); }
 
     std::function<void()> OnExit; // the user leaves the control
+    // A key in the control; true when the rule has consumed it.
+    std::function<bool(TTecla)> OnKeyDown;
+    bool PodeReceberFoco() const { return FEnabled && FVisible; }
     // Listeners outlive the control or are never told again.
     void AoMudar(std::function<void()> AOuvinte) { FOuvintes.push_back(std::move(AOuvinte)); }
 
@@ -62,6 +68,11 @@ class HOST_API TAction : public TControle {
 };
 
 class HOST_API TPanel : public TControle {
+  public:
+    using TControle::TControle;
+};
+
+class HOST_API TLabel : public TControle {
   public:
     using TControle::TControle;
 };

@@ -61,6 +61,14 @@ void TForm::Executar(TAction& AAcao) {
     }
 }
 
+void TForm::Teclar(TControle& AControle, TTecla ATecla) {
+    try {
+        if (!AControle.OnKeyDown || !AControle.OnKeyDown(ATecla))
+            FormKeyDown(ATecla);
+    } catch (const Abort&) { // the rule has told the user
+    }
+}
+
 void TDmZTTandorPadrao::Conectar(std::initializer_list<TZTSQLDataSet*> ADataSets) {
     for (auto* LDataSet : ADataSets)
         LDataSet->SetSQLConnection(ZTConnection().GetSQLConnection());
@@ -90,6 +98,13 @@ int TFormZTTandorPadraoResult::ShowModal() {
 void TFormZTTandorPadraoResult::Fechar(int AResultado) {
     FAberto = false;
     FModalResult = AResultado;
+}
+
+TFormZTTandorPadraoCalculos::TFormZTTandorPadraoCalculos(std::string ANome, std::string ATitulo)
+    : TFormZTTandorPadraoResult(std::move(ANome), std::move(ATitulo)),
+      ActExecutar("ActExecutar", [this] { ActExecutarExecute(&ActExecutar); }),
+      ActExcluir("ActExcluir", [this] { ActExcluirExecute(&ActExcluir); }) {
+    Registrar({&ActExecutar, &ActExcluir});
 }
 
 } // namespace host

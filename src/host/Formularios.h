@@ -42,11 +42,14 @@ class HOST_API TForm {
     // Leaving validates the control and then runs its exit event.
     void SairDe(TControle& AControle);
     void Executar(TAction& AAcao);
+    // A key in a control: the control's rule first, then, unless that consumed it, the form's.
+    void Teclar(TControle& AControle, TTecla ATecla);
 
     virtual void InitializeForm() {}
     // With a control: what leaving it requires. With none: everything, for the commit.
     virtual void ValidarCampos(TControle* /*ASender*/) {}
     virtual void Imprimir() {}
+    virtual void FormKeyDown(TTecla /*ATecla*/) {}
 
   protected:
     // Members of the form, registered by its constructor in the order of the form.
@@ -109,6 +112,31 @@ class HOST_API TFormZTTandorPadraoResult : public TForm {
   private:
     bool FAberto = false;
     int FModalResult = 0;
+};
+
+// Base of a calculation dialog: it stays open behind an action, which first validates all fields.
+class HOST_API TFormZTTandorPadraoCalculos : public TFormZTTandorPadraoResult {
+  public:
+    TFormZTTandorPadraoCalculos(std::string ANome, std::string ATitulo);
+    void ActOKExecute(TControle* ASender) override { ActExecutarExecute(ASender); }
+    virtual void ActExecutarExecute(TControle* /*ASender*/) { ValidarCampos(nullptr); }
+    virtual void ActExcluirExecute(TControle* /*ASender*/) { ValidarCampos(nullptr); }
+
+  protected:
+    TAction ActExecutar;
+    TAction ActExcluir;
+};
+
+// Base of a report: made for one print, given its title and printed by its own Imprimir.
+class HOST_API TDMTandorRelPadrao : public TDMPadrao {
+  public:
+    explicit TDMTandorRelPadrao(std::string ATitulo) : FTitulo(std::move(ATitulo)) {}
+    const std::string& Titulo() const { return FTitulo; }
+    virtual void InitializeForm() {}
+    virtual void Imprimir() = 0;
+
+  private:
+    std::string FTitulo;
 };
 
 } // namespace host

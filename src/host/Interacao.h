@@ -9,6 +9,7 @@ namespace host {
 
 class TControle;
 class TFormZTTandorPadraoResult;
+class TZTLookupEx;
 
 enum class TNivelMensagem { Informacao, Erro, Confirmacao };
 
@@ -42,6 +43,8 @@ class HOST_API TInteracao {
     // Shows a dialog and returns when it has closed.
     virtual void MostrarModal(TFormZTTandorPadraoResult& AForm) = 0;
     virtual void Focar(TControle& AControle) = 0;
+    // Opens the search of a lookup; the user picks, marks or leaves it.
+    virtual void Pesquisar(TZTLookupEx& ALookup) = 0;
     // Lets what waits in the window's queue happen.
     virtual void ProcessarMensagens() = 0;
 };

@@ -1,5 +1,6 @@
 #include "host/Texto.h"
 
+#include <charconv>
 #include <stdexcept>
 #include <vector>
 
@@ -68,6 +69,13 @@ std::string Trim(std::string_view ATexto) {
     if (LInicio == std::string_view::npos)
         return {};
     return std::string(ATexto.substr(LInicio, ATexto.find_last_not_of(Brancos) - LInicio + 1));
+}
+
+std::int32_t NumeroOuZero(std::string_view ATexto) {
+    std::int32_t LNumero = 0;
+    const auto LFim = ATexto.data() + ATexto.size();
+    const auto LResultado = std::from_chars(ATexto.data(), LFim, LNumero);
+    return LResultado.ec == std::errc{} && LResultado.ptr == LFim ? LNumero : 0;
 }
 
 } // namespace host

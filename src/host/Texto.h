@@ -20,5 +20,7 @@ HOST_API std::string Format(std::string_view ATexto, std::initializer_list<TArgu
 // The text as a SQL literal, quotes included.
 HOST_API std::string QuotedStr(std::string_view ATexto);
 HOST_API std::string Trim(std::string_view ATexto);
+// A whole number as text; 0 for any other text.
+HOST_API std::int32_t NumeroOuZero(std::string_view ATexto);
 
 } // namespace host

@@ -2,74 +2,59 @@
 
 #include "core/Un04618Const.h"
 #include "host/Falhas.h"
+#include "host/Servicos.h"
 #include "host/Texto.h"
 #include "host/Utilidades.h"
+#include "selection/DefinicoesLookups.h"
 
 namespace pct04618 {
 
 namespace {
 
 using host::GZTUtilsDialogs;
-
-std::int32_t NumeroOuZero(const std::string& AValor) {
-    const auto LNumero = host::TDecimal::De(AValor);
-    return LNumero ? static_cast<std::int32_t>(LNumero->Unidades) : 0;
-}
+using host::TZTUtilsControls;
 
 [[noreturn]] void Recusar(const char* AMensagem, host::TControle& AControle) {
     GZTUtilsDialogs.Informacao(AMensagem);
-    host::TZTUtilsControls::AtribuirFocoControle(AControle);
+    TZTUtilsControls::AtribuirFocoControle(AControle);
+    throw host::Abort();
+}
+
+void ExigirData(const host::TZTDateEdit& AData, const char* AMensagem, host::TControle& AControle) {
+    if (host::TZTUtilsValidacoes::ValidouData(AData.Texto(), AMensagem))
+        return;
+    TZTUtilsControls::AtribuirFocoControle(AControle);
     throw host::Abort();
 }
 
 } // namespace
 
-TForm04618Selecao::TForm04618Selecao(TDM04618& ADm04618)
-    : TFormZTTandorPadraoResult("TForm04618Selecao", "Selecionar períodos projetados"), FDm04618(ADm04618) {
-    ActOK.SetCaption("&Selecionar");
-    ActSair.SetCaption("&Sair [Esc]");
-    DeDataIni.SetCaption("Data inicial:");
-    DeDataFim.SetCaption("Data Final :");
-    CbSelecionar.SetCaption("Visualizar:");
-    CbSelecionar.SetItens({"1 - Orçamentária com base no balanço"}, {"1"});
-    CbDetalharSelecao.SetCaption("Detalhar:");
-    CbDetalharSelecao.SetItens({"1 - Agrupando períodos intermediários", "2 - Pesquisando período exato"}, {"1", "2"});
-    CbDetalharSelecao.OnExit = [this] { CbDetalharSelecaoExit(); };
-    ChkAgruparValFiliais.SetCaption("Agrupar valores dos estabelecimentos");
-    ChkAgruparValFiliais.SetEnabled(false);
-    CbCenario.SetCaption("Cenário:");
-    CbCenario.SetItens({"0 - Condições normais - Previsão normal", "1 - Condições favoráveis - Previsão otimista ",
-                        "2 - Condições adversas - Previsão pessimista"},
-                       {"0", "1", "2"});
-    Registrar({&DeDataIni, &DeDataFim, &CbSelecionar, &CbDetalharSelecao, &ChkAgruparValFiliais, &CbCenario});
-}
-
 void TForm04618Selecao::FormShow() {
+    const auto LEmpresa = host::BuscarInstanciaZTEmpresaLogada().BuscarDadosEmpresa(FDm04618.FIDEmpresa);
+    LkpEmpresa.SetEnabled(LEmpresa.EncabecaHolding);
+    LblEmpresa.SetEnabled(LEmpresa.EncabecaHolding);
+    LkpEmpresa.Clear();
+    if (!FDm04618.CdsFiliais.IsEmpty()) // the search lists establishments: a company without any is not in it
+        LkpEmpresa.Digitar(std::to_string(LEmpresa.Codigo));
     FCancelou = true;
-    host::TZTUtilsControls::AtribuirFocoControle(DeDataIni);
-}
-
-std::int32_t TForm04618Selecao::ModoSelecionado() const {
-    return NumeroOuZero(CbDetalharSelecao.GetValorSelecionado());
+    TZTUtilsControls::AtribuirFocoControle(LkpEmpresa.Enabled() ? static_cast<host::TControle&>(LkpEmpresa)
+                                                                : DeDataIni);
 }
 
 void TForm04618Selecao::ValidarCampos(host::TControle* ASender) {
     if (!ASender || (ASender == &DeDataIni && !DeDataIni.EmBranco())) {
         FDm04618.FDataInicio = DeDataIni.Date();
-        if (!host::TZTUtilsValidacoes::ValidouData(DeDataIni.Texto(), "Data inicial inválida. Verifique.")) {
-            host::TZTUtilsControls::AtribuirFocoControle(DeDataIni);
-            throw host::Abort();
-        }
+        ExigirData(DeDataIni, "Data inicial inválida. Verifique.", DeDataIni);
         ValidarDataSeHePrimeiroEUltimoDiaMes(DeDataIni, nullptr);
     }
     if (!ASender || ASender == &DeDataFim) {
         FDm04618.FDataFim = DeDataFim.Date();
-        if (!host::TZTUtilsValidacoes::ValidouData(DeDataFim.Texto(), "Data final inválida. Verifique.")) {
-            host::TZTUtilsControls::AtribuirFocoControle(DeDataFim);
-            throw host::Abort();
-        }
+        ExigirData(DeDataFim, "Data final inválida. Verifique.", DeDataFim);
         ValidarDataSeHePrimeiroEUltimoDiaMes(DeDataFim, &DeDataIni);
     }
+    if (!ASender && LblDetalharLinhas.Enabled() && !ChkLinhaVlrBase.Checked() && !ChkLinhaVlrOrcado.Checked() &&
+        !ChkLinhaVlrRealizado.Checked())
+        Recusar("Marque uma das opções de detalhamento de linhas de valores.", ChkLinhaVlrBase);
 }
 
 void TForm04618Selecao::ValidarDataSeHePrimeiroEUltimoDiaMes(host::TZTDateEdit& AData,
@@ -82,25 +67,11 @@ void TForm04618Selecao::ValidarDataSeHePrimeiroEUltimoDiaMes(host::TZTDateEdit& 
     if (!AData.Date().Vazia() && AData.Date() != LUltimoDia) {
         GZTUtilsDialogs.Informacao("A data final deve ser o último dia do mês.");
         AData.SetDate(LUltimoDia);
-        host::TZTUtilsControls::AtribuirFocoControle(AData);
+        TZTUtilsControls::AtribuirFocoControle(AData);
         throw host::Abort();
     }
     if (ADataInicial && !(ADataInicial->Date() < AData.Date()))
         Recusar("A data inicial não pode ser maior que a data final. Verifique.", DeDataFim);
-}
-
-void TForm04618Selecao::CbDetalharSelecaoExit() {
-    FDm04618.FDetalharPercentual = TDetalhePercentual::dpRealizadoXOrcado;
-    FDm04618.FDetalharSelecao = ModoSelecionado();
-    FDm04618.FInformacoesCtbOrcadaInf = FDm04618.BuscarListaInformacoesCtbOrcadaInf();
-    HabilitarCamposReferentesASelecaoDeEstabelecimento();
-}
-
-void TForm04618Selecao::HabilitarCamposReferentesASelecaoDeEstabelecimento() {
-    ChkAgruparValFiliais.SetEnabled(!FDm04618.FEhConsolidadoHolding &&
-                                    FDm04618.CalculoDaProjecaoHeDetalhadoPorFilial());
-    if (!ChkAgruparValFiliais.Enabled())
-        ChkAgruparValFiliais.SetChecked(false);
 }
 
 void TForm04618Selecao::ActOKExecute(host::TControle*) {
@@ -114,7 +85,7 @@ void TForm04618Selecao::ActOKExecute(host::TControle*) {
     try {
         AtribuirPropriedadesDm04618();
         if (!host::Trim(FDm04618.FInformacoesCtbOrcadaInf.LListaIDs).empty())
-            BuscarInformacoesOrcamentaria();
+            ExecutarConsultaDoModo();
     } catch (...) {
         LEncerrar();
         throw;
@@ -122,27 +93,119 @@ void TForm04618Selecao::ActOKExecute(host::TControle*) {
     LEncerrar();
 }
 
+void TForm04618Selecao::ExecutarConsultaDoModo() {
+    if (Visualizacao() == 1 || Modo() == ModoPeriodosEmColunas)
+        BuscarInformacoesOrcamentaria();
+}
+
 void TForm04618Selecao::AtribuirPropriedadesDm04618() {
-    FDm04618.FDetalharSelecao = ModoSelecionado();
-    FDm04618.FAgruparValFiliais = ChkAgruparValFiliais.Checked();
-    FDm04618.FImprimirOrcamentariaBal = CbSelecionar.GetValorSelecionado() == "1";
-    FDm04618.FCenario = NumeroOuZero(CbCenario.GetValorSelecionado());
-    FDm04618.FAnoI = DeDataIni.Date().Ano();
-    FDm04618.FAnoF = DeDataFim.Date().Ano();
-    FDm04618.FInformacoesCtbOrcadaInf = FDm04618.BuscarListaInformacoesCtbOrcadaInf();
+    auto& LDm = FDm04618;
+    LDm.FDetalharCCustoComBaseOrc = ChkDetalharCCustoOrcamento.Checked();
+    LDm.FDetalharSomenteCCustoTitulo = ChkDetalharSomenteCCustoTitulo.Checked();
+    LDm.FCalcularPercentualDiferenca = ChkCalcularPercentualDiferenca.Checked();
+    LDm.FDetalharValorLctoCCusto = ChkValLctoCentrosCustos.Checked();
+    LDm.FDetalharLinhaVlrBase = ChkLinhaVlrBase.Checked();
+    LDm.FDetalharLinhaVlrOrcado = ChkLinhaVlrOrcado.Checked();
+    LDm.FDetalharLinhaVlrRealizado = ChkLinhaVlrRealizado.Checked();
+    LDm.FDetalharSelecao = Modo();
+    LDm.FAgruparValFiliais = ChkAgruparValFiliais.Checked();
+    LDm.FImprimirOrcamentariaBal = Visualizacao() == 1;
+    LDm.FImprimirDetContasTotaliz = ChkDetalharTotalizadoresContas.Checked();
+    LDm.FImprimirDetFiliaisTotaliz = ChkDetalharTotalizadoresEstab.Checked();
+    LDm.FImprimirDetCCustoTotaliz = ChkDetalharTotalizadoresCCusto.Checked();
+    LDm.FIDDemac = LkpRelatorioDemonstConfig.GetID();
+    LDm.FDescricaoRel =
+        LDm.FIDDemac > 0 ? LkpRelatorioDemonstConfig.GetResultSet().FieldByName("TITULO").AsString() : std::string();
+    const bool LRazao = Modo() == ModoRazaoTotalizadores;
+    LDm.FIDsTotalizadores =
+        BuscarIDsMultiselecao(LkpTotalizadorDemonstConfig, "CO01_DEMACTOT.IDDEMACTOT = ", "IDDEMACTOT");
+    LDm.FIDsCentroCusto = BuscarIDsMultiselecao(
+        LkpCentroCusto, LRazao ? "CO01_CENTROCUSTO.IDCENTROCUSTO = " : "CO01_CTBORCADAVLR.IDCENTROCUSTO = ",
+        "IDCENTROCUSTO");
+    LDm.FIDsContas = BuscarIDsMultiselecao(
+        LkpContas, LRazao ? "CO01_PLANO.IDPLANO = " : "CO01_CTBORCADAVLR.IDPLANO = ", "IDPLANO");
+    AtribuirUsuariosPorAtribuicao();
+    AtribuirHolding();
+    LDm.FCenario = host::NumeroOuZero(CbCenario.GetValorSelecionado());
+    LDm.FAnoI = DeDataIni.Date().Ano();
+    LDm.FAnoF = DeDataFim.Date().Ano();
+    LDm.FClassificacao = LkpContas.GetClassifContab();
+    LDm.FIDPlano = LkpContas.GetID();
+    LDm.FDetalharPercentual = DetalhePercentual();
+    LDm.FInformacoesCtbOrcadaInf = LDm.BuscarListaInformacoesCtbOrcadaInf();
+    AtualizarInformacoesIDsFilialSelecionados();
+}
+
+void TForm04618Selecao::AtribuirUsuariosPorAtribuicao() {
+    FDm04618.FIDsUsuariosAtrib =
+        BuscarIDsMultiselecao(LkpUsuarioAtrib, "CO01_DEMACTOTUSUATRIB.IDUSUARIOATRIB = ", "IDUSUARIOATRIB");
+    const auto LAtribuir = [this](std::string& ACondicao, const char* APrefixo, const char* AAtribuicao) {
+        if (LkpUsuarioAtrib.GetResultSetMultiSelecao().Active()) {
+            ACondicao = BuscarIDsMultiselecao(LkpUsuarioAtrib, APrefixo, "IDUSUARIOATRIB", AAtribuicao, "NOMEATRIB");
+        } else if (LkpUsuarioAtrib.GetID() > 0) {
+            const bool LTem = LkpUsuarioAtrib.GetResultSet().FieldByName("NOMEATRIB").AsString() == AAtribuicao;
+            ACondicao = LTem ? BuscarIDsMultiselecao(LkpUsuarioAtrib, APrefixo, "IDUSUARIOATRIB") : std::string();
+        }
+    };
+    LAtribuir(FDm04618.FIDsUsuariosAtribGestor, "DEMACTOTUSUATRIB_G.IDUSUARIOATRIB = ", "Gestor");
+    LAtribuir(FDm04618.FIDsUsuariosAtribSupervisor, "DEMACTOTUSUATRIB_S.IDUSUARIOATRIB = ", "Supervisor");
+}
+
+void TForm04618Selecao::AtribuirHolding() {
+    FDm04618.FIDsEmpresasDaHolding.clear();
+    FDm04618.FIDsFiliaisDaHolding.clear();
+    if (!LkpEmpresa.Enabled())
+        return;
+    // Marked and then none marks nothing: the statement of a holding has no form without a company.
+    FDm04618.FEhConsolidadoHolding =
+        LkpEmpresa.GetResultSetMultiSelecao().Active() && !LkpEmpresa.GetResultSetMultiSelecao().IsEmpty();
+    if (!FDm04618.FEhConsolidadoHolding)
+        return;
+    FDm04618.FIDsEmpresasDaHolding =
+        BuscarIDsMultiselecao(LkpEmpresa, "CO01_CTBORCADAINF.IDEMPRESA = ", "IDEMPRESA");
+    FDm04618.FIDsFiliaisDaHolding = BuscarIDsMultiselecao(LkpEmpresa, "CO01_CTBORCADAINF.IDFILIAL = ", "IDFILIAL");
+}
+
+// What the boxes show is what runs.
+TDetalhePercentual TForm04618Selecao::DetalhePercentual() const {
+    const auto LVale = [](const host::TZTCheckBox& ACaixa) { return ACaixa.Enabled() && ACaixa.Checked(); };
+    if (LVale(ChkDetPercAnaliseVertical))
+        return TDetalhePercentual::dpVertical;
+    return LVale(ChkDetPercRealizadoXBase) ? TDetalhePercentual::dpRealizadoXBase
+                                           : TDetalhePercentual::dpRealizadoXOrcado;
 }
 
 void TForm04618Selecao::BuscarInformacoesOrcamentaria() {
-    host::TZTBarraProgressoDlg LProgresso;
+    FDm04618.CdsMostraCtbOrcMensal.Close();
+    FDm04618.CdsMostraCtbOrcada.Close();
+    host::TZTBarraProgressoDlg LProgresso; // closes itself on every way out
     LProgresso.SetTitulo("Buscando informações orçamentária.");
     LProgresso.MostrarBarraProgresso();
     auto& LBarra = LProgresso.BuscarBarraProgresso(0);
     LBarra.IniciarSimulacaoProcesso();
     LBarra.SetTexto("Aguarde buscando informações");
-    FDm04618.CdsMostraCtbOrcada.CommandText = FDm04618.BuscarDadosOrcamentariaComBaseNoBalanco();
-    FDm04618.CdsMostraCtbOrcada.Open(); // a failure closes the progress dialog on its way out
+    if (Modo() == ModoPeriodosEmColunas) {
+        FDm04618.BuscarDadosOrcamentariaBalancoOuDemonstConfigDemonstPeriodosEmColunas(
+            FDm04618.CdsMostraCtbOrcMensal, FDm04618.SdsMostraCtbOrcMensal, ChkPerSemMov.Checked());
+    } else {
+        FDm04618.CdsMostraCtbOrcada.CommandText = FDm04618.BuscarDadosOrcamentariaComBaseNoBalanco();
+        FDm04618.CdsMostraCtbOrcada.Open();
+    }
     LBarra.PararSimulacaoProcesso();
     LProgresso.FecharBarraProgresso();
+}
+
+void TForm04618Selecao::AtribuirDadosSelecao(std::int64_t AIDFilial, host::TDataHora ADataIni,
+                                             host::TDataHora ADataFim, std::int32_t AVisualizacao,
+                                             std::int32_t ADetalhar, std::int32_t ACenario) {
+    if (AIDFilial > 0)
+        LkpEmpresa.SetID(AIDFilial);
+    DeDataIni.SetDate(ADataIni);
+    DeDataFim.SetDate(ADataFim);
+    CbSelecionar.SetItemIndex(AVisualizacao);
+    AtualizarItensEValuesDetalhamentosTiposDeRelatorios();
+    CbDetalharSelecao.SetValorSelecionado(std::to_string(ADetalhar));
+    CbCenario.SetValorSelecionado(std::to_string(ACenario));
 }
 
 } // namespace pct04618

@@ -27,7 +27,12 @@ class Interacao : public host::TInteracao {
     bool ProgressoCancelado() override { return cancelado; }
     void MostrarModal(host::TFormZTTandorPadraoResult& form) override { aoMostrar(form); }
     void Focar(host::TControle& controle) override { foco = controle.Nome(); }
+    void Pesquisar(host::TZTLookupEx& lookup) override {
+        if (aoPesquisar)
+            aoPesquisar(lookup);
+    }
     void ProcessarMensagens() override {}
+    std::function<void(host::TZTLookupEx&)> aoPesquisar;
     std::string foco;
 };
 

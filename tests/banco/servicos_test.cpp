@@ -54,6 +54,7 @@ class CdsUsuario {
         sds.CommandText = "SELECT U.* FROM US09_USUARIO U ORDER BY U.IDUSUARIO";
         sds.Papeis["IDUSUARIO"] = host::TPapelCampo::Chave;
         sds.Papeis["NOME"] = host::TPapelCampo::Gravado;
+        dsp.LocalizaSoPelaChave = true;
         dsp.OnGetTableName = [](std::string& tabela) { tabela = "US09_USUARIO"; };
     }
     void incluir(int id, const std::string& nome) {
@@ -353,6 +354,10 @@ TEST(Servicos, FalhasComunsDizemOQueFazer) {
         Transaction transacao(ligacao, TransactionMode::ReadOnly);
         const auto direito = Falha([&] { queryValue(transacao, Usuarios, "teste"); });
         EXPECT_NE(std::string::npos, std::string(direito.what()).find("não tem permissão")) << direito.what();
+        // Another process finds the file taken.
+        const auto comando = std::string(ORCREAL_PROGRAMA " --banco '") + copia.arquivo().string() +
+                             "' consultar 2>&1 | grep -q 'está aberto por outro programa'";
+        EXPECT_EQ(0, std::system(comando.c_str()));
     }
     const auto ausente = Falha([] { Attachment{Target("127.0.0.1/1:/nada.fdb"), {}}; });
     EXPECT_NE(std::string::npos, std::string(ausente.what()).find("servidor do banco")) << ausente.what();

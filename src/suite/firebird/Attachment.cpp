@@ -8,6 +8,7 @@
 #include <ibase.h>
 
 #include <cstdlib>
+#include <fstream>
 #include <utility>
 
 namespace suite::firebird {
@@ -79,9 +80,10 @@ void setProvider(ParameterBlock& block, const Target& target) {
 }
 
 // What the engine says of a file it cannot read is hardly for users: an absent file and a missing right look alike, and
-// a file shorter than a page is a read error.
+// a file shorter than a page is a read error. Nor should a wrong path leave a lock directory beside some text file.
 void requireDatabaseFile(const std::filesystem::path& file) {
     constexpr std::uintmax_t LeastPage = 1024;
+    constexpr int HeaderPage = 1; // first byte of the first page
     const auto refuse = [&](const std::string& why, long code) {
         throw host::TFalhaBanco(host::TTipoFalhaBanco::Conexao, why, "08001", {code}, AttachName, file.string());
     };
@@ -90,7 +92,9 @@ void requireDatabaseFile(const std::filesystem::path& file) {
     if (!std::filesystem::exists(status))
         refuse("O banco de dados " + file.string() + " não existe. Confira o caminho, ou crie um com \"orcreal demo\".",
                isc_io_open_err);
-    if (!std::filesystem::is_regular_file(status) || std::filesystem::file_size(file, error) < LeastPage)
+    std::ifstream content(file, std::ios::binary);
+    if (!std::filesystem::is_regular_file(status) || std::filesystem::file_size(file, error) < LeastPage ||
+        (content && content.get() != HeaderPage))
         refuse("O arquivo " + file.string() + " não é um banco de dados Firebird. Confira o caminho.",
                isc_bad_db_format);
 }

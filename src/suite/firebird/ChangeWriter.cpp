@@ -20,7 +20,7 @@ class Writer {
                 provider->OnGetTableName(table_);
             roles_ = &provider->DataSet().Papeis;
         }
-        if (table_.empty() || !roles_ || roles_->empty())
+        if (table_.empty() || !roles_ || roles_->empty() || !dataSet.Provider()->LocalizaSoPelaChave)
             throw host::TFalha("O conjunto de dados " + dataSet.Nome() + " não pode ser gravado.");
     }
 

@@ -1,12 +1,13 @@
 #include "suite/program/ConsultCommand.h"
 
 #include "host/Falhas.h"
+#include "host/Lookup.h"
 #include "host/Registro.h"
 #include "host/Texto.h"
-#include "suite/script/FormDriver.h"
+#include "suite/program/FillSelection.h"
+#include "suite/program/ResultColumns.h"
 #include "suite/script/Rows.h"
 
-#include <array>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -19,29 +20,6 @@ namespace suite::program {
 
 namespace {
 
-using script::ShownColumn;
-
-constexpr std::array<ShownColumn, 18> BalanceColumns{{
-    {"CLASSIFCONTAB", "Classificação"},
-    {"CONTA", "Conta", 6, false, true},
-    {"NOMECONTA", "Nome da Conta", 0, true},
-    {"CODIGO", "Sub", 4, false, true},
-    {"FILIAL", "Filial", 0, false, true},
-    {"CCUSTO", "C.Custo", 0, false, true},
-    {"DESCCCUSTO", "Desc.Custo", 9},
-    {"TPATUALIZBASE", "TP Atualiz.", 8, false, true},
-    {"INDICEATBASE", "% Atualiz.", 8, false, true},
-    {"VLRBASE", "Valor Base", 3},
-    {"TPPROJECAO", "Proj.", 7, false, true},
-    {"TPBASEPROJ", "Base Proj.", 7, false, true},
-    {"PERCORCADO", "% Orçado", 8, false, true},
-    {"VLRORCADO", "Valor Orçado"},
-    {"VLRREALIZADO", "Valor Realizado"},
-    {"DELTAVLR", "Variação"},
-    {"DELTAPERC", "% Realizado", 1},
-    {"DELTAVARIACAO", "% Variação", 2},
-}};
-
 constexpr std::size_t DefaultWidth = 120;
 
 // Of the terminal, or of a page where there is none.
@@ -52,30 +30,18 @@ std::size_t tableWidth(bool terminal) {
     return DefaultWidth;
 }
 
-void fillIn(script::FormDriver& dialog, const ConsultOptions& options) {
-    dialog.define("CbCenario", options.scenario);
-    dialog.define("DeDataIni", options.from);
-    dialog.define("DeDataFim", options.to);
-    dialog.define("CbDetalharSelecao", options.mode);
-    // Dates that are none stop at the commit with their message; only good ones decide what else may be chosen.
-    if (!options.groupEstablishments)
-        return;
-    dialog.leave("DeDataIni");
-    dialog.leave("DeDataFim");
-    dialog.leave("CbDetalharSelecao");
-    if (!dialog.enabled("ChkAgruparValFiliais"))
-        throw host::TFalha("A opção --agrupar não se aplica: as projeções deste período não são detalhadas por "
-                           "estabelecimento. Retire a opção.");
-    dialog.define("ChkAgruparValFiliais", "1");
-}
-
 std::string itemOf(const host::TForm& dialog, const char* combo) {
     const auto& control = dynamic_cast<const host::TZTComboBox&>(dialog.Controle(combo));
     return host::Trim(control.Itens()[static_cast<std::size_t>(control.ItemIndex())]);
 }
 
 std::string heading(const host::TForm& dialog, const ConsultOptions& options, const Login& login) {
-    return "Orçado x realizado por conta: " + itemOf(dialog, "CbDetalharSelecao") + "\n" +
+    std::string what = "por conta";
+    if (options.view == "demonstracao") {
+        const auto& statement = dynamic_cast<const host::TZTLookupEx&>(dialog.Controle("LkpRelatorioDemonstConfig"));
+        what = "- " + statement.Codigo() + " - " + statement.Texto();
+    }
+    return "Orçado x realizado " + what + ": " + itemOf(dialog, "CbDetalharSelecao") + "\n" +
            std::to_string(login.company().Codigo) + " - " + login.company().Nome + "\nPeríodo de " + options.from +
            " a " + options.to + ", cenário " + itemOf(dialog, "CbCenario") + "\n\n";
 }
@@ -85,10 +51,10 @@ void write(std::ostream& out, const host::TDataSet& rows, const ConsultOptions& 
     if (options.format == "json") {
         script::writeJson(out, rows);
     } else if (options.format == "csv") {
-        script::writeCsv(out, rows, BalanceColumns);
+        script::writeCsv(out, rows, resultColumns(rows));
     } else {
         out << heading;
-        script::writeTable(out, rows, BalanceColumns, tableWidth(terminal), terminal);
+        script::writeTable(out, rows, resultColumns(rows), tableWidth(terminal), terminal);
     }
 }
 
@@ -121,13 +87,12 @@ ExitCode runConsult(const ConsultOptions& options, const Login& login, script::H
     window->InitializeForm();
     std::string title;
     interaction.onModal = [&](host::TFormZTTandorPadraoResult& form) {
-        script::FormDriver dialog(form);
-        fillIn(dialog, options);
+        fillSelection(form, options, interaction);
         title = heading(form, options, login);
-        dialog.click("actOK");
     };
     window->Executar(window->Acao("ActSelecionar"));
-    const auto& rows = window->DataSet("CdsMostraCtbOrcada");
+    const auto& balance = window->DataSet("CdsMostraCtbOrcada");
+    const auto& rows = balance.Active() ? balance : window->DataSet("CdsMostraCtbOrcMensal");
     if (!rows.Active())
         return ExitCode::Refused; // the rules have said why
     if (!options.output.empty()) {

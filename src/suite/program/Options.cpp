@@ -74,6 +74,34 @@ void translateHelp(CLI::App& app) {
     app.formatter(formatter);
 }
 
+void addConsultOptions(CLI::App& command, ConsultOptions& options) {
+    const auto add = [&](const char* name, std::string& value, const char* text, const char* type) {
+        return command.add_option(name, value, text)->type_name(type);
+    };
+    add("--visualizar", options.view, "balanco: plano de contas (padrão); demonstracao: demonstração configurável", "V")
+        ->check(oneOf({"balanco", "demonstracao"}));
+    add("--modo", options.mode, "1 agrupando períodos, 2 período exato, 3 períodos em colunas", "M")
+        ->check(oneOf({"1", "2", "3"}));
+    add("--de", options.from, "data inicial, o primeiro dia de um mês", "dd/mm/aaaa");
+    add("--ate", options.to, "data final, o último dia de um mês", "dd/mm/aaaa");
+    add("--cenario", options.scenario, "0 normal (padrão), 1 otimista, 2 pessimista", "N")->check(oneOf({"0", "1", "2"}));
+    add("--relatorio", options.statement, "demonstração configurável, pelo código", "CODIGO");
+    add("--totalizadores", options.totalizers, "totalizadores da demonstração, pelos códigos", "C,C");
+    add("--estabelecimentos", options.establishments, "estabelecimentos, pelos números", "N,N");
+    command.add_flag("--agrupar", options.groupEstablishments, "soma os estabelecimentos numa linha");
+    add("--centros", options.centres, "centros de custo, pelos códigos", "C,C");
+    add("--contas", options.accounts, "contas, pelos códigos; uma só traz as contas abaixo dela", "C,C");
+    add("--empresas", options.companies, "consolida a holding: empresa/estabelecimento", "N/F,N/F");
+    add("--detalhar", options.details, "abre os totalizadores: contas", "D,D");
+    add("--linhas", options.lines, "linhas do modo 3: B base, O orçado, R realizado (padrão: todas)", "B,O,R");
+    add("--percentual", options.percentage, "orcado, base ou vertical", "P")
+        ->check(oneOf({"orcado", "base", "vertical"}));
+    command.add_flag("--diferenca", options.difference, "percentual pelo valor da diferença");
+    command.add_flag("--periodos-sem-movimento", options.idlePeriods, "mostra também os períodos sem movimento");
+    add("--formato", options.format, "tabela (padrão), csv ou json", "T")->check(oneOf({"tabela", "csv", "json"}));
+    add("--saida", options.output, "grava o resultado no arquivo F", "F");
+}
+
 } // namespace
 
 std::filesystem::path defaultDemoFile() { return userFolder("XDG_DATA_HOME", ".local/share") / "demonstracao.fdb"; }
@@ -114,23 +142,7 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
     app.add_option("--pasta-log", options.login.logFolder, "pasta de log do hospedeiro")->type_name("D");
 
     auto* consultCommand = app.add_subcommand("consultar", "faz uma consulta e mostra suas linhas");
-    consultCommand->add_option("--visualizar", consult.view, "balanco: sobre o plano de contas (padrão)")
-        ->type_name("V")
-        ->check(oneOf({"balanco"}));
-    consultCommand
-        ->add_option("--modo", consult.mode, "1 agrupando períodos intermediários (padrão), 2 período exato")
-        ->type_name("M")
-        ->check(oneOf({"1", "2"}));
-    consultCommand->add_option("--de", consult.from, "data inicial, o primeiro dia de um mês")->type_name("dd/mm/aaaa");
-    consultCommand->add_option("--ate", consult.to, "data final, o último dia de um mês")->type_name("dd/mm/aaaa");
-    consultCommand->add_option("--cenario", consult.scenario, "0 normal (padrão), 1 otimista, 2 pessimista")
-        ->type_name("N")
-        ->check(oneOf({"0", "1", "2"}));
-    consultCommand->add_flag("--agrupar", consult.groupEstablishments, "soma os estabelecimentos numa linha");
-    consultCommand->add_option("--formato", consult.format, "tabela (padrão), csv ou json")
-        ->type_name("T")
-        ->check(oneOf({"tabela", "csv", "json"}));
-    consultCommand->add_option("--saida", consult.output, "grava o resultado no arquivo F")->type_name("F");
+    addConsultOptions(*consultCommand, consult);
 
     auto* demoCommand = app.add_subcommand("demo", "cria o banco de dados de demonstração");
     demoCommand->add_option("--destino", demo.destination, "arquivo a criar (padrão: na pasta de dados do usuário)")

@@ -8,13 +8,25 @@
 
 namespace suite::program {
 
+// What the selection dialog is to be filled with. Empty: left as the rules leave it.
 struct ConsultOptions {
     std::string view = "balanco";
-    std::string mode = "1";
+    std::string mode;
     std::string from;
     std::string to;
-    std::string scenario = "0";
+    std::string scenario;
+    std::string statement;
+    std::string totalizers;
+    std::string establishments;
     bool groupEstablishments = false;
+    std::string centres;
+    std::string accounts;
+    std::string companies;
+    std::string details;
+    std::string lines;
+    std::string percentage;
+    bool difference = false;
+    bool idlePeriods = false;
     std::string format = "tabela";
     std::string output; // a file; empty for standard output
 };

@@ -50,7 +50,7 @@ std::string cell(const Column& column, const host::TValor& value) {
 void writeCsv(std::ostream& out, const host::TDataSet& rows, std::span<const ShownColumn> shown) {
     std::vector<Column> columns;
     for (const auto& column : shown) {
-        out << (columns.empty() ? "" : ";") << quoteCsv(std::string(column.title));
+        out << (columns.empty() ? "" : ";") << quoteCsv(column.title);
         const auto* field = rows.FindField(column.field);
         const bool number = field->Descricao().Tipo == host::TTipoColuna::Inteiro;
         columns.push_back({field, number ? placesOf(rows, *field) : 0});

@@ -1,6 +1,8 @@
 #include "suite/script/FormDriver.h"
 
 #include "host/Falhas.h"
+#include "host/Lookup.h"
+#include "host/Texto.h"
 
 #include <algorithm>
 
@@ -25,6 +27,39 @@ void tick(host::TZTCheckBox& box, const std::string& value) {
     box.SetChecked(value == "1");
 }
 
+// Positions, from 1, of the rows that a list of codes and keys names, in the order of the search.
+std::vector<std::size_t> rowsOf(const host::TZTLookupEx& lookup, const host::TDataSet& search, std::string_view list) {
+    std::vector<std::size_t> rows;
+    while (!list.empty()) {
+        const auto comma = std::min(list.find(','), list.size());
+        const auto item = host::Trim(list.substr(0, comma));
+        list.remove_prefix(std::min(comma + 1, list.size()));
+        const bool key = item.starts_with('#');
+        const auto* field = search.FindField(key ? lookup.Definicao().CampoChave : lookup.Definicao().CampoPesquisa);
+        const auto& column = search.Colunas()[field->Indice()];
+        const auto before = rows.size();
+        for (std::size_t i = 0; i < search.RecordCount(); ++i)
+            if (TextoDe(column.Valor(search.LinhaDe(i))) == item.substr(key ? 1 : 0))
+                rows.push_back(i + 1);
+        if (rows.size() == before)
+            throw host::TFalha("A pesquisa de " + lookup.Nome() + " não tem o registro \"" + item + "\".");
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
+}
+
+void choose(host::TZTLookupEx& lookup, const std::string& value) {
+    if (!value.starts_with('#') && !value.starts_with('{'))
+        return lookup.Digitar(value);
+    const auto search = lookup.Pesquisar();
+    if (value.starts_with('#'))
+        return lookup.Escolher(*search, rowsOf(lookup, *search, value).front());
+    if (!value.ends_with('}') || !lookup.Definicao().MultiSelecao)
+        throw host::TFalha(lookup.Nome() + " não aceita \"" + value + "\".");
+    lookup.Marcar(*search, rowsOf(lookup, *search, std::string_view(value).substr(1, value.size() - 2)));
+}
+
 } // namespace
 
 void FormDriver::define(std::string_view name, const std::string& value) {
@@ -37,6 +72,8 @@ void FormDriver::define(std::string_view name, const std::string& value) {
         pick(*combo, value);
     else if (auto* date = dynamic_cast<host::TZTDateEdit*>(&control))
         date->SetTexto(value);
+    else if (auto* lookup = dynamic_cast<host::TZTLookupEx*>(&control))
+        choose(*lookup, value);
     else
         throw host::TFalha(control.Nome() + " não recebe valor.");
 }

@@ -13,11 +13,11 @@ class FormDriver {
   public:
     explicit FormDriver(host::TForm& form) : form_(form) {}
 
-    // Types or picks. Check box: "1" or "0"; date: "dd/mm/aaaa" or nothing; combo: the value.
+    // Types or picks. Check box: "1" or "0"; date: "dd/mm/aaaa" or nothing; combo: the value; lookup: a code, "#KEY" for
+    // the record with that key, "{7,9}" or "{#100,#200}" for records marked in its search, "{}" marked and then none.
     void define(std::string_view control, const std::string& value);
     void leave(std::string_view control);
     void click(std::string_view action);
-    bool enabled(std::string_view control) const { return form_.Controle(control).Enabled(); }
 
   private:
     host::TForm& form_;

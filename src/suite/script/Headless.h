@@ -26,6 +26,7 @@ class Headless final : public host::TInteracao {
     bool ProgressoCancelado() override { return false; }
     void MostrarModal(host::TFormZTTandorPadraoResult& form) override;
     void Focar(host::TControle&) override {}
+    void Pesquisar(host::TZTLookupEx&) override {}
     void ProcessarMensagens() override {}
 
   private:

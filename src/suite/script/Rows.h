@@ -12,8 +12,8 @@ namespace suite::script {
 // A column as it is shown: a field under a title. Rank says what a narrow table leaves out first, the highest before
 // the others; 0 always stays.
 struct ShownColumn {
-    std::string_view field;
-    std::string_view title;
+    std::string field;
+    std::string title;
     int rank = 0;
     bool stretches = false; // takes what room is left, and is cut where there is too little
     bool zeroIsBlank = false;
@@ -28,8 +28,6 @@ void writeCsv(std::ostream& out, const host::TDataSet& rows, std::span<const Sho
 void writeTable(std::ostream& out, const host::TDataSet& rows, std::span<const ShownColumn> columns, std::size_t width,
                 bool bold);
 
-// A cell as a reader of Brazilian numbers and dates expects it, by the field's display format; empty for NULL.
-std::string displayText(const host::TField& field, const host::TValor& value);
 // A JSON string, quotes included.
 std::string quoteJson(std::string_view text);
 

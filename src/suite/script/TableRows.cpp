@@ -1,4 +1,5 @@
 #include "host/FormatoNumerico.h"
+#include "host/Grade.h"
 #include "suite/script/Rows.h"
 
 #include <algorithm>
@@ -8,6 +9,7 @@ namespace suite::script {
 
 namespace {
 
+constexpr const char* TotalLabel = "Total (contas analíticas)";
 constexpr std::size_t LeastStretch = 25;
 
 // Characters of a UTF-8 text; all that the database holds is one column wide.
@@ -64,12 +66,12 @@ Column load(const host::TDataSet& rows, const ShownColumn& shown) {
     column.number = cells.Descricao().Tipo != host::TTipoColuna::Texto;
     for (std::size_t i = 0; i < rows.RecordCount(); ++i) {
         const auto value = cells.Valor(rows.LinhaDe(i));
-        auto text = shown.zeroIsBlank && isZero(value) ? std::string() : displayText(*column.field, value);
+        auto text = shown.zeroIsBlank && isZero(value) ? std::string() : host::TextoExibido(value, column.field->FormatoExibicao);
         column.width = std::max(column.width, length(text));
         column.cells.push_back(std::move(text));
     }
     column.total = totalOf(rows, *column.field);
-    column.width = std::max(column.width, length(column.total));
+    column.width = std::max(column.width, shown.stretches ? LeastStretch : length(column.total));
     return column;
 }
 
@@ -93,7 +95,7 @@ std::string fit(std::vector<Column>& columns, std::size_t width) {
         });
         if (last->shown->rank == 0)
             break;
-        left += (left.empty() ? "" : ", ") + std::string(last->shown->title);
+        left += (left.empty() ? "" : ", ") + last->shown->title;
         columns.erase(last);
     }
     const auto used = lineWidth(columns);
@@ -119,16 +121,6 @@ void writeLine(std::ostream& out, const std::vector<Column>& columns,
 
 } // namespace
 
-std::string displayText(const host::TField& field, const host::TValor& value) {
-    if (const auto* decimal = std::get_if<host::TDecimal>(&value))
-        return decimal->Escala == 0 && field.FormatoExibicao.empty()
-                   ? decimal->Texto() // a code: no thousands points
-                   : host::FormatarNumero(*decimal, field.FormatoExibicao);
-    if (const auto* date = std::get_if<host::TDataHora>(&value))
-        return date->Texto();
-    return TextoDe(value);
-}
-
 void writeTable(std::ostream& out, const host::TDataSet& rows, std::span<const ShownColumn> shown, std::size_t width,
                 bool bold) {
     if (rows.IsEmpty()) {
@@ -140,7 +132,7 @@ void writeTable(std::ostream& out, const host::TDataSet& rows, std::span<const S
         if (auto loaded = load(rows, column); !empty(loaded))
             columns.push_back(std::move(loaded));
     const auto left = fit(columns, width);
-    writeLine(out, columns, [](const Column& c) { return c.shown->title; });
+    writeLine(out, columns, [](const Column& c) { return std::string_view(c.shown->title); });
     writeLine(out, columns, [line = std::string()](const Column& c) mutable {
         line.clear();
         for (std::size_t i = 0; i < c.width; ++i)
@@ -153,9 +145,10 @@ void writeTable(std::ostream& out, const host::TDataSet& rows, std::span<const S
         writeLine(out, columns, [i](const Column& c) { return std::string_view(c.cells[i]); });
         out << (title ? "\033[0m" : "");
     }
-    writeLine(out, columns, [](const Column& c) {
-        return c.shown->stretches ? std::string_view("Total (contas analíticas)") : std::string_view(c.total);
-    });
+    if (std::any_of(columns.begin(), columns.end(), [](const Column& c) { return !c.total.empty(); }))
+        writeLine(out, columns, [](const Column& c) {
+            return c.shown->stretches ? std::string_view(TotalLabel) : std::string_view(c.total);
+        });
     out << '\n' << rows.RecordCount() << (rows.RecordCount() == 1 ? " linha." : " linhas.");
     if (!left.empty())
         out << " Não couberam: " << left << " (--formato csv mostra todas as colunas).";

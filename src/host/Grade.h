@@ -1,0 +1,87 @@
+#pragma once
+
+#include "host/Formularios.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace host {
+
+using TCor = std::uint32_t; // 0xRRGGBB
+
+// How a cell is shown, beside its text. Without a colour the front end's own holds.
+struct HOST_API TAparencia {
+    bool Negrito = false;
+    std::optional<TCor> Fonte;
+    std::optional<TCor> Fundo;
+    bool Vazio = false; // shows its background only
+};
+
+struct HOST_API TColunaGrade {
+    std::string Campo;
+    std::string Titulo;
+    std::string Faixa;    // caption of the band above it, empty for none
+    bool Visivel = true;
+    std::string Formato;  // of numbers (FormatoNumerico.h); empty: the field's own
+    int Grupo = -1;       // grouping level from 0, -1 for none
+    bool Identificacao = false; // stays in view when the others scroll
+};
+
+class TGrade;
+
+// One cell of a grid: a row by its position from 0 in the dataset's order, whatever the grid groups or sorts.
+struct HOST_API TCelula {
+    const TGrade* Grade = nullptr;
+    std::size_t Posicao = 0;
+    const TColunaGrade* Coluna = nullptr;
+    bool Selecionada = false;
+
+    // The row's value of any field, shown or not; NULL for a field that the dataset does not have.
+    TValor Valor(std::string_view ACampo) const;
+    // The cell's own text as it is displayed, "" for NULL.
+    std::string Texto() const;
+};
+
+// A grid over a data source: columns by field name, and the rules of how a cell looks. It holds no rows.
+class HOST_API TGrade : public TControle {
+  public:
+    TGrade(std::string ANome, TDataSource& AFonte) : TControle(std::move(ANome)), FFonte(AFonte) {}
+
+    // Null while the data source has none.
+    const TDataSet* DataSet() const { return FFonte.DataSet; }
+    const std::vector<TColunaGrade>& Colunas() const { return FColunas; }
+    void SetColunas(std::vector<TColunaGrade> AColunas);
+    // Throw TFalha for a field without a column.
+    const TColunaGrade& Coluna(std::string_view ACampo) const;
+    void MudarColuna(std::string_view ACampo, const std::function<void(TColunaGrade&)>& AMudanca);
+
+    // The rule of the window; absent: plain cells.
+    std::function<TAparencia(const TCelula&)> RegraDaCelula;
+    TAparencia Aparencia(const TCelula& ACelula) const;
+    TCelula Celula(std::size_t APosicao, const TColunaGrade& AColuna, bool ASelecionada = false) const {
+        return {this, APosicao, &AColuna, ASelecionada};
+    }
+
+    // Asked of whoever shows the grid: open all groups.
+    std::function<void()> AoExpandirTudo;
+    void ExpandirTudo() const {
+        if (AoExpandirTudo)
+            AoExpandirTudo();
+    }
+
+  private:
+    void Avisar();
+
+    TDataSource& FFonte;
+    std::vector<TColunaGrade> FColunas;
+    std::uint64_t FVersao = 0; // of the columns: a change tells the listeners
+};
+
+// A value as a Brazilian reader expects it: numbers by the format (empty: a whole number plain, another with all its
+// decimals), dates as dd/mm/aaaa, "" for NULL.
+HOST_API std::string TextoExibido(const TValor& AValor, std::string_view AFormato);
+
+} // namespace host

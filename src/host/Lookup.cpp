@@ -1,0 +1,161 @@
+#include "host/Lookup.h"
+
+#include "host/DbManager.h"
+#include "host/Dialogos.h"
+#include "host/Falhas.h"
+#include "host/Texto.h"
+
+#include <stdexcept>
+
+namespace host {
+
+namespace {
+
+class TCursorDeLinhas : public TCursor {
+  public:
+    TCursorDeLinhas(const TDataSet& AOrigem, const std::vector<std::size_t>& ALinhas)
+        : FOrigem(AOrigem), FLinhas(ALinhas) {
+        for (const auto& LColuna : AOrigem.Colunas())
+            FColunas.push_back(LColuna.Descricao());
+    }
+    const std::vector<TDescricaoColuna>& Colunas() const override { return FColunas; }
+    std::size_t Ler(TColunas& ADestino, std::size_t AMaximo) override {
+        std::size_t LLidas = 0;
+        for (; LLidas < AMaximo && FProxima < FLinhas.size(); ++LLidas, ++FProxima)
+            for (std::size_t I = 0; I < ADestino.size(); ++I)
+                ADestino[I].Acrescentar(FOrigem.Colunas()[I].Valor(FLinhas[FProxima]));
+        return LLidas;
+    }
+
+  private:
+    const TDataSet& FOrigem;
+    const std::vector<std::size_t>& FLinhas;
+    std::vector<TDescricaoColuna> FColunas;
+    std::size_t FProxima = 0;
+};
+
+std::string TextoDaCelula(const TDataSet& ADataSet, const std::string& ACampo, std::size_t ALinha) {
+    const auto* LCampo = ADataSet.FindField(ACampo);
+    if (!LCampo)
+        throw TFalha("A pesquisa " + ADataSet.Nome() + " não traz o campo " + ACampo + ".");
+    return TextoDe(ADataSet.Colunas()[LCampo->Indice()].Valor(ALinha));
+}
+
+// The first row, in the order of the search, with that text in the field; the number of rows when there is none.
+std::size_t Procurar(const TDataSet& ADataSet, const std::string& ACampo, const std::string& ATexto) {
+    std::size_t I = 0;
+    while (I < ADataSet.RecordCount() && TextoDaCelula(ADataSet, ACampo, ADataSet.LinhaDe(I)) != ATexto)
+        ++I;
+    return I;
+}
+
+} // namespace
+
+void TDataSetEscolhido::Carregar(const TDataSet& AOrigem, std::vector<std::size_t> ALinhas) {
+    Close();
+    FOrigem = &AOrigem;
+    FLinhas = std::move(ALinhas);
+    Open();
+    FOrigem = nullptr;
+}
+
+std::unique_ptr<TCursor> TDataSetEscolhido::AbrirCursor() {
+    if (!FOrigem)
+        throw std::logic_error(Nome() + " opens by Carregar alone");
+    return std::make_unique<TCursorDeLinhas>(*FOrigem, FLinhas);
+}
+
+TZTLookupEx::TZTLookupEx(std::string ANome, TDefinicaoLookup ADefinicao)
+    : TControle(ANome), FDefinicao(std::move(ADefinicao)), FAchado(ANome), FMarcados(std::move(ANome)) {
+    Clear();
+}
+
+std::unique_ptr<TZTClientDataSet> TZTLookupEx::Pesquisar() const {
+    TBusca LBusca;
+    if (AntesDeBuscar)
+        AntesDeBuscar(LBusca);
+    auto LPesquisa = BuscarInstanciaZTUtilsDbManager().CreateClientDataSetWithConnection(Nome());
+    LPesquisa->CommandText = LBusca.Instrucao.empty() ? FDefinicao.Instrucao : LBusca.Instrucao;
+    if (!LBusca.Condicao.empty())
+        LPesquisa->CommandText += " WHERE " + LBusca.Condicao;
+    if (!FDefinicao.Final.empty())
+        LPesquisa->CommandText += " " + FDefinicao.Final;
+    LPesquisa->SetIndexFieldNames(FDefinicao.Ordem);
+    LPesquisa->Open();
+    return LPesquisa;
+}
+
+void TZTLookupEx::MostrarTexto(std::string ACodigo, std::string ATexto) {
+    Mudar(FCodigo, std::move(ACodigo));
+    Mudar(FTexto, std::move(ATexto));
+}
+
+void TZTLookupEx::Clear() {
+    FID = 0;
+    FAchado.Close();
+    FMarcados.Close();
+    MostrarTexto("", FDefinicao.PermiteZero ? FDefinicao.TextoZero : "");
+}
+
+void TZTLookupEx::Achar(const TDataSet& APesquisa, std::size_t ALinha) {
+    FMarcados.Close();
+    FAchado.Carregar(APesquisa, {ALinha});
+    FID = FAchado.GetInt64FieldValue(FDefinicao.CampoChave);
+    MostrarTexto(FAchado.FieldByName(FDefinicao.CampoPesquisa).AsString(),
+                 FAchado.FieldByName(FDefinicao.CampoDescricao).AsString());
+}
+
+void TZTLookupEx::SetID(std::int64_t AID) {
+    Clear();
+    if (AID <= 0)
+        return;
+    const auto LPesquisa = Pesquisar();
+    const auto LPosicao = Procurar(*LPesquisa, FDefinicao.CampoChave, std::to_string(AID));
+    if (LPosicao < LPesquisa->RecordCount())
+        Achar(*LPesquisa, LPesquisa->LinhaDe(LPosicao));
+}
+
+void TZTLookupEx::Digitar(const std::string& ACodigo) {
+    const auto LCodigo = Trim(ACodigo);
+    Clear();
+    if (LCodigo.empty() || (LCodigo == "0" && FDefinicao.PermiteZero))
+        return;
+    const auto LPesquisa = Pesquisar();
+    const auto LPosicao = Procurar(*LPesquisa, FDefinicao.CampoPesquisa, LCodigo);
+    if (LPosicao < LPesquisa->RecordCount()) {
+        Achar(*LPesquisa, LPesquisa->LinhaDe(LPosicao));
+        if (BuscaAchou)
+            BuscaAchou();
+        return;
+    }
+    FID = FDefinicao.ValorInvalido;
+    MostrarTexto(LCodigo, "");
+    if (!FDefinicao.TextoNaoAchou.empty())
+        GZTUtilsDialogs.Informacao(FDefinicao.TextoNaoAchou);
+    if (BuscaNaoAchou)
+        BuscaNaoAchou();
+}
+
+void TZTLookupEx::Escolher(TDataSet& APesquisa, std::size_t ARecNo) {
+    APesquisa.IrPara(ARecNo);
+    Achar(APesquisa, APesquisa.LinhaDe(ARecNo - 1));
+    if (BuscaAchou)
+        BuscaAchou();
+}
+
+void TZTLookupEx::Marcar(TDataSet& APesquisa, const std::vector<std::size_t>& ARecNos) {
+    if (!FDefinicao.MultiSelecao)
+        throw std::logic_error(Nome() + " takes one record");
+    std::vector<std::size_t> LLinhas;
+    for (const auto LRecNo : ARecNos)
+        LLinhas.push_back(APesquisa.LinhaDe(LRecNo - 1));
+    Clear();
+    FMarcados.Carregar(APesquisa, std::move(LLinhas));
+    const bool LTodos = !TextoTodosMarcados.empty() && FMarcados.RecordCount() == APesquisa.RecordCount();
+    if (!FMarcados.IsEmpty())
+        MostrarTexto("", LTodos ? TextoTodosMarcados : TextoVarios);
+    if (BuscaAchou)
+        BuscaAchou();
+}
+
+} // namespace host
