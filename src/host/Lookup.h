@@ -12,15 +12,15 @@ namespace host {
 
 // Rows taken out of another dataset: a copy that stands by itself.
 class HOST_API TDataSetEscolhido : public TDataSet {
-  public:
+public:
     using TDataSet::TDataSet;
     // Closes, and opens again on those rows of the columns, in that order.
     void Carregar(const TDataSet& AOrigem, std::vector<std::size_t> ALinhas);
 
-  protected:
+protected:
     std::unique_ptr<TCursor> AbrirCursor() override;
 
-  private:
+private:
     const TDataSet* FOrigem = nullptr;
     std::vector<std::size_t> FLinhas;
 };
@@ -32,25 +32,25 @@ struct HOST_API TColunaLookup {
 
 // What is fixed in a search field.
 struct HOST_API TDefinicaoLookup {
-    std::string Titulo;         // of the search window
-    std::string CampoPesquisa;  // the code that a user types
-    std::string CampoChave;     // what GetID gives
-    std::string CampoDescricao; // shown beside the code
-    std::string Ordem;          // "CAMPO;CAMPO": order of the search
-    std::string Instrucao;      // select without a condition
-    std::string Final;          // what stands behind the condition, an ORDER BY
-    std::vector<TColunaLookup> Colunas; // of the search, in order
+    std::string Titulo{};                 // of the search window
+    std::string CampoPesquisa{};          // the code that a user types
+    std::string CampoChave{};             // what GetID gives
+    std::string CampoDescricao{};         // shown beside the code
+    std::string Ordem{};                  // "CAMPO;CAMPO": order of the search
+    std::string Instrucao{};              // select without a condition
+    std::string Final{};                  // what stands behind the condition, an ORDER BY
+    std::vector<TColunaLookup> Colunas{}; // of the search, in order
     bool MultiSelecao = false;
     bool PermiteZero = false;
-    std::string TextoZero;                                       // shown for zero or blank, where zero is allowed
+    std::string TextoZero{};                                         // shown for zero or blank, where zero is allowed
     std::string TextoNaoAchou = "A informação digitada é inválida!"; // message for an unknown code; empty: none
-    std::int64_t ValorInvalido = 0;                              // what GetID gives after an unknown code
+    std::int64_t ValorInvalido = 0;                                  // what GetID gives after an unknown code
 };
 
 // One search field: a code with its description, the record found, and the records marked in its search where several
 // may be chosen. Reads pass their failures on.
 class HOST_API TZTLookupEx : public TControle {
-  public:
+public:
     static constexpr const char* TextoVarios = "Vários registros selecionados.";
 
     TZTLookupEx(std::string ANome, TDefinicaoLookup ADefinicao);
@@ -90,7 +90,7 @@ class HOST_API TZTLookupEx : public TControle {
     // Marks rows of a search, by their positions from 1; throws std::logic_error where only one may be chosen.
     void Marcar(TDataSet& APesquisa, const std::vector<std::size_t>& ARecNos);
 
-  private:
+private:
     void Achar(const TDataSet& APesquisa, std::size_t ALinha);
     void MostrarTexto(std::string ACodigo, std::string ATexto);
 

@@ -5,107 +5,110 @@
 namespace pct04618 {
 
 host::TDefinicaoLookup LookupPesquisaPerOrcConsulta() {
-    host::TDefinicaoLookup LDefinicao;
-    LDefinicao.Titulo = "Pesquisa orçamentos";
-    LDefinicao.CampoPesquisa = "IDCTBORCADAINF";
-    LDefinicao.CampoChave = "IDCTBORCADAINF";
-    LDefinicao.CampoDescricao = "TPCENARIO";
-    LDefinicao.Ordem = "DATAINICIO";
-    LDefinicao.Instrucao = sql::PesquisaOrcamentos;
-    LDefinicao.TextoNaoAchou = "Período inválido";
-    LDefinicao.Colunas = {{"FILIAL", "Filial"},
-                          {"DATAINICIO", "Data inicial"},
-                          {"DATAFIM", "Data final"},
-                          {"TPCENARIO", "Cenário"},
-                          {"TPDETALHE", "Tipo detalhamento"},
-                          {"DATAIBALANCOREF", "Data ini balanc ref"},
-                          {"DATAFBALANCOREF", "Data fim balanc ref"},
-                          {"MESESPROJETADOS", "Meses proj."},
-                          {"IDCTBORCADAINF", "Registro"}};
-    return LDefinicao;
+    return {
+        .Titulo = "Pesquisa orçamentos",
+        .CampoPesquisa = "IDCTBORCADAINF",
+        .CampoChave = "IDCTBORCADAINF",
+        .CampoDescricao = "TPCENARIO",
+        .Ordem = "DATAINICIO",
+        .Instrucao = sql::PesquisaOrcamentos,
+        .Colunas = {{"FILIAL", "Filial"},
+                    {"DATAINICIO", "Data inicial"},
+                    {"DATAFIM", "Data final"},
+                    {"TPCENARIO", "Cenário"},
+                    {"TPDETALHE", "Tipo detalhamento"},
+                    {"DATAIBALANCOREF", "Data ini balanc ref"},
+                    {"DATAFBALANCOREF", "Data fim balanc ref"},
+                    {"MESESPROJETADOS", "Meses proj."},
+                    {"IDCTBORCADAINF", "Registro"}},
+        .TextoNaoAchou = "Período inválido",
+    };
 }
 
 host::TDefinicaoLookup LookupEmpresa() {
-    host::TDefinicaoLookup LDefinicao; // its statement is given at each search
-    LDefinicao.CampoPesquisa = "EMPRESA";
-    LDefinicao.CampoChave = "IDFILIAL";
-    LDefinicao.CampoDescricao = "NOMEFILIAL";
-    LDefinicao.Ordem = "TIPO;EMPRESA;FILIAL";
-    LDefinicao.MultiSelecao = true;
-    LDefinicao.Colunas = {{"EMPRESA", "Empresa"},
-                          {"FILIAL", "Filial"},
-                          {"NOMEFILIAL", "Razão Social"},
-                          {"NOMEFANTASIA", "Nome Fantasia"},
-                          {"IDFILIAL", "Registro"}};
-    return LDefinicao;
+    return {
+        .CampoPesquisa = "EMPRESA",
+        .CampoChave = "IDFILIAL",
+        .CampoDescricao = "NOMEFILIAL",
+        .Ordem = "TIPO;EMPRESA;FILIAL",
+        .Colunas = {{"EMPRESA", "Empresa"},
+                    {"FILIAL", "Filial"},
+                    {"NOMEFILIAL", "Razão Social"},
+                    {"NOMEFANTASIA", "Nome Fantasia"},
+                    {"IDFILIAL", "Registro"}},
+        .MultiSelecao = true,
+    };
 }
 
 host::TDefinicaoLookup LookupRelatorioDemonstConfig() {
-    host::TDefinicaoLookup LDefinicao;
-    LDefinicao.Titulo = "Pesquisa de Demonstrações Acessorias Configuráveis";
-    LDefinicao.CampoPesquisa = "CODIGO";
-    LDefinicao.CampoChave = "IDDEMAC";
-    LDefinicao.CampoDescricao = "TITULO";
-    LDefinicao.Ordem = "CODIGO";
-    LDefinicao.Instrucao = sql::PesquisaRelatorios;
-    LDefinicao.Final = "ORDER BY CO01_DEMAC.CODIGO";
-    LDefinicao.Colunas = {
-        {"CODIGO", "Código"}, {"TITULO", "Título"}, {"DESCRICAO", "Descrição"}, {"IDDEMAC", "Registro"}};
-    return LDefinicao;
+    return {
+        .Titulo = "Pesquisa de Demonstrações Acessorias Configuráveis",
+        .CampoPesquisa = "CODIGO",
+        .CampoChave = "IDDEMAC",
+        .CampoDescricao = "TITULO",
+        .Ordem = "CODIGO",
+        .Instrucao = sql::PesquisaRelatorios,
+        .Final = "ORDER BY CO01_DEMAC.CODIGO",
+        .Colunas = {{"CODIGO", "Código"}, {"TITULO", "Título"}, {"DESCRICAO", "Descrição"}, {"IDDEMAC", "Registro"}},
+    };
 }
 
 host::TDefinicaoLookup LookupTotalizadorDemonstConfig() {
-    host::TDefinicaoLookup LDefinicao;
-    LDefinicao.Titulo = "Pesquisa de Totalizadores de Demonstrações Configuráveis";
-    LDefinicao.CampoPesquisa = "CODIGO";
-    LDefinicao.CampoChave = "IDDEMACTOT";
-    LDefinicao.CampoDescricao = "DESCRICAO";
-    LDefinicao.Ordem = "CLASSIF;CODIGO";
-    LDefinicao.Instrucao = sql::PesquisaTotalizadores;
-    LDefinicao.MultiSelecao = true;
-    LDefinicao.PermiteZero = true;
-    LDefinicao.TextoZero = "TODOS OS TOTALIZADORES";
-    LDefinicao.TextoNaoAchou.clear();
-    LDefinicao.Colunas = {{"CLASSIF", "Classificação"}, {"CODIGO", "Código"}, {"DESCRICAO", "Descrição"},
-                          {"DESCTITULO", "Título"},     {"GRAU", "Grau"},     {"CODTOTPAI", "Tot. Pai"},
-                          {"IDDEMACTOT", "Registro"}};
-    return LDefinicao;
+    return {
+        .Titulo = "Pesquisa de Totalizadores de Demonstrações Configuráveis",
+        .CampoPesquisa = "CODIGO",
+        .CampoChave = "IDDEMACTOT",
+        .CampoDescricao = "DESCRICAO",
+        .Ordem = "CLASSIF;CODIGO",
+        .Instrucao = sql::PesquisaTotalizadores,
+        .Colunas = {{"CLASSIF", "Classificação"},
+                    {"CODIGO", "Código"},
+                    {"DESCRICAO", "Descrição"},
+                    {"DESCTITULO", "Título"},
+                    {"GRAU", "Grau"},
+                    {"CODTOTPAI", "Tot. Pai"},
+                    {"IDDEMACTOT", "Registro"}},
+        .MultiSelecao = true,
+        .PermiteZero = true,
+        .TextoZero = "TODOS OS TOTALIZADORES",
+        .TextoNaoAchou = "",
+    };
 }
 
 host::TDefinicaoLookup LookupUsuarioAtrib() {
-    host::TDefinicaoLookup LDefinicao;
-    LDefinicao.Titulo = "Pesquisa de usuários/atribuições";
-    LDefinicao.CampoPesquisa = "CODIGO";
-    LDefinicao.CampoChave = "IDUSUARIOATRIB";
-    LDefinicao.CampoDescricao = "NOMEUSU";
-    LDefinicao.Ordem = "CODIGO";
-    LDefinicao.Instrucao = sql::PesquisaUsuarios;
-    LDefinicao.Final = "ORDER BY US09_USUARIO.NOME";
-    LDefinicao.MultiSelecao = true;
-    LDefinicao.PermiteZero = true;
-    LDefinicao.TextoZero = "TODOS OS USUÁRIOS / ATRIBUIÇÕES";
-    LDefinicao.Colunas = {{"CODUSU", "Cód. usuário"},
-                          {"NOMEUSU", "Nome do usuário"},
-                          {"CODATRIB", "Cód. atribuição"},
-                          {"NOMEATRIB", "Nome da atribuição"},
-                          {"IDUSUARIOATRIB", "Registro"}};
-    return LDefinicao;
+    return {
+        .Titulo = "Pesquisa de usuários/atribuições",
+        .CampoPesquisa = "CODIGO",
+        .CampoChave = "IDUSUARIOATRIB",
+        .CampoDescricao = "NOMEUSU",
+        .Ordem = "CODIGO",
+        .Instrucao = sql::PesquisaUsuarios,
+        .Final = "ORDER BY US09_USUARIO.NOME",
+        .Colunas = {{"CODUSU", "Cód. usuário"},
+                    {"NOMEUSU", "Nome do usuário"},
+                    {"CODATRIB", "Cód. atribuição"},
+                    {"NOMEATRIB", "Nome da atribuição"},
+                    {"IDUSUARIOATRIB", "Registro"}},
+        .MultiSelecao = true,
+        .PermiteZero = true,
+        .TextoZero = "TODOS OS USUÁRIOS / ATRIBUIÇÕES",
+    };
 }
 
 host::TDefinicaoLookup LookupSubConta() {
-    host::TDefinicaoLookup LDefinicao;
-    LDefinicao.Titulo = "Pesquisa de subcontas";
-    LDefinicao.CampoPesquisa = "CODIGO";
-    LDefinicao.CampoChave = "IDPLANOSUB";
-    LDefinicao.CampoDescricao = "DESCRICAO";
-    LDefinicao.Ordem = "CODIGO";
-    LDefinicao.Instrucao = sql::PesquisaSubContas;
-    LDefinicao.MultiSelecao = true;
-    LDefinicao.PermiteZero = true;
-    LDefinicao.TextoZero = "TODAS AS SUBCONTAS";
-    LDefinicao.ValorInvalido = -1;
-    LDefinicao.Colunas = {{"CODIGO", "Código"}, {"DESCRICAO", "Descrição"}, {"IDPLANOSUB", "Registro"}};
-    return LDefinicao;
+    return {
+        .Titulo = "Pesquisa de subcontas",
+        .CampoPesquisa = "CODIGO",
+        .CampoChave = "IDPLANOSUB",
+        .CampoDescricao = "DESCRICAO",
+        .Ordem = "CODIGO",
+        .Instrucao = sql::PesquisaSubContas,
+        .Colunas = {{"CODIGO", "Código"}, {"DESCRICAO", "Descrição"}, {"IDPLANOSUB", "Registro"}},
+        .MultiSelecao = true,
+        .PermiteZero = true,
+        .TextoZero = "TODAS AS SUBCONTAS",
+        .ValorInvalido = -1,
+    };
 }
 
 std::string BuscarIDsMultiselecao(host::TZTLookupEx& ALookupEx, const std::string& ACondicao,
