@@ -1,12 +1,22 @@
 #include "consultation/Un04618Form.h"
 
+#include "core/Un04618Const.h"
+#include "host/Falhas.h"
 #include "host/Servicos.h"
 
 namespace pct04618 {
 
 TForm04618::TForm04618()
-    : TFormZTTandorPadraoSelecao("TForm04618", "Consultas e relatórios Orçamento x Realizado") {
+    : TFormZTTandorPadraoSelecao("TForm04618", "Consultas e relatórios Orçamento x Realizado"),
+      ActAtualizarRealizado("ActAtualizarRealizado", [this] { ActAtualizarRealizadoExecute(); }) {
+    ConfigurarControles();
+    ConfigurarGrades();
     Registrar({&DsMostraCtbOrcada, &DsMostraCtbOrcMensal});
+    Registrar({&ActAtualizarRealizado, &PnlTitulo, &PnlGrades, &DbgCtbOrcada, &DbgMostraCtbOrcMensal,
+               &GdlConsultarProj, &GdlMostraCtbOrcMensal, &PnlLegenda, &LblCorRecRealizMaiorProj,
+               &LblRecRealizMaiorProj, &LblCorRecRealizMenorProj, &LblRecRealizMenorProj, &LblCorDespRealizMaiorProj,
+               &LblDespRealizMaiorProj, &LblCorDespRealizMenorProj, &LblDespRealizMenorProj,
+               &PnlLegendaGradeOrcMensal, &LblLegendaGradeOrcMensal});
 }
 
 TForm04618::~TForm04618() { FormDestroy(); }
@@ -22,6 +32,7 @@ void TForm04618::InitializeForm() {
     LDm.FIDEmpresaPlano = LEmpresaLogada.BuscarIDEmpresaPlano(LDm.FIDEmpresa);
     LDm.FIDEmpresaHolding = LEmpresaLogada.BuscarIDHolding(LDm.FIDEmpresa);
     LDm.CarregarFiliais();
+    InicializarGrades();
 }
 
 TDM04618& TForm04618::GetDm04618() const { return static_cast<TDM04618&>(*FDataModule); }
@@ -34,7 +45,60 @@ TForm04618Selecao& TForm04618::GetFormSelecao() {
 
 void TForm04618::ActSelecionarExecute(host::TControle* ASender) {
     TFormZTTandorPadraoSelecao::ActSelecionarExecute(ASender);
-    GetFormSelecao().ShowModal();
+    const auto& LDm = GetDm04618();
+    if (!LDm.CdsMostraCtbOrcMensal.Active() && !LDm.CdsMostraCtbOrcada.Active()) {
+        DbgCtbOrcada.SetVisible(true);
+        DbgMostraCtbOrcMensal.SetVisible(false);
+    }
+    try {
+        ExecutarSelecao(ASender);
+    } catch (const host::TFalha&) {
+        MostrarResultado(); // a failed query has closed the results: title and grid must not go on naming them
+        throw;
+    }
+    MostrarResultado();
+    if (!GetFormSelecao().Cancelou() &&
+        (LDm.FDetalharSelecao == ModoMatricial || LDm.FDetalharSelecao == ModoRazaoTotalizadores))
+        ActImprimirExecute();
+}
+
+void TForm04618::ExecutarSelecao(host::TControle* ASender) {
+    auto& LDialogo = GetFormSelecao();
+    if (ASender != &ActAtualizarRealizado) {
+        LDialogo.ShowModal();
+        return;
+    }
+    const auto& LDm = GetDm04618();
+    LDialogo.AtribuirDadosSelecao(LDm.FIDFilial, LDm.FDataInicio, LDm.FDataFim, 0, LDm.FDetalharSelecao, LDm.FCenario);
+    LDialogo.ActOKExecute(ASender);
+}
+
+// The query module decides, however the dialog was left.
+void TForm04618::MostrarResultado() {
+    auto& LDm = GetDm04618();
+    DbgCtbOrcada.SetVisible(LDm.FDetalharSelecao == ModoAgrupandoPeriodos ||
+                            LDm.FDetalharSelecao == ModoPeriodoExato);
+    DbgMostraCtbOrcMensal.SetVisible(LDm.FDetalharSelecao == ModoPeriodosEmColunas &&
+                                     !LDm.CdsMostraCtbOrcMensal.IsEmpty());
+    if (LDm.FInformacoesCtbOrcadaInf.LListaIDs.empty()) {
+        if (DbgCtbOrcada.Visible())
+            LDm.CdsMostraCtbOrcada.Close();
+        else if (DbgMostraCtbOrcMensal.Visible())
+            LDm.CdsMostraCtbOrcMensal.Close();
+    }
+    if (DbgMostraCtbOrcMensal.Visible() && !LDm.CdsMostraCtbOrcMensal.IsEmpty())
+        EstruturarColGridCtbOrcMensal();
+    PnlLegenda.SetVisible(DbgCtbOrcada.Visible());
+    PnlLegendaGradeOrcMensal.SetVisible(DbgMostraCtbOrcMensal.Visible());
+    AtualizarTituloRelatorio();
+}
+
+void TForm04618::ActImprimirExecute() {
+    host::GZTUtilsDialogs.Informacao("A impressão deste modo ainda não faz parte desta versão.");
+}
+
+void TForm04618::ActAtualizarRealizadoExecute() {
+    host::GZTUtilsDialogs.Informacao("A atualização do realizado ainda não faz parte desta versão.");
 }
 
 void TForm04618::FormDestroy() {

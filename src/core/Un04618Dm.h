@@ -88,6 +88,9 @@ class TDM04618 : public host::TDmZTTandorPadrao {
     host::TZTDataSetProvider DspCtbOrcadaVlr{"DspCtbOrcadaVlr", SdsCtbOrcadaVlr};
     host::TZTClientDataSet CdsCtbOrcadaVlr{"CdsCtbOrcadaVlr", DspCtbOrcadaVlr};
 
+    std::vector<host::TCampoDescrito> DescreverCampos() const override;
+    std::vector<const host::TZTClientDataSet*> DataSets() const override;
+
     // Finds the projections that answer the selection, and stores a copy of the result in FInformacoesCtbOrcadaInf.
     // Without any, modes 1 to 4 show a message and leave the stored copy as it was. Over more than twelve years modes
     // 3 and 4 show a message and abort. A consolidated selection needs both conditions of the holding.

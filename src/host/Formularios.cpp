@@ -95,6 +95,11 @@ int TFormZTTandorPadraoResult::ShowModal() {
     return FModalResult;
 }
 
+void TFormZTTandorPadraoResult::FormKeyDown(TTecla ATecla) {
+    if (ATecla == TTecla::Esc)
+        ActSair.Execute();
+}
+
 void TFormZTTandorPadraoResult::Fechar(int AResultado) {
     FAberto = false;
     FModalResult = AResultado;

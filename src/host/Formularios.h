@@ -6,8 +6,12 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <variant>
+#include <vector>
 
 namespace host {
+
+class TGrade;
 
 // Binds a grid to a dataset under a name.
 class HOST_API TDataSource {
@@ -32,6 +36,7 @@ class HOST_API TForm {
     const std::string& Nome() const { return FNome; }
     const std::string& Titulo() const { return FTitulo; }
     const std::vector<TControle*>& Controles() const { return FControles; } // in the order of the form
+    const std::vector<TDataSource*>& Fontes() const { return FFontes; }
 
     // Throw TFalha, which lists what there is, for an unknown name.
     TControle& Controle(std::string_view ANome) const;
@@ -63,13 +68,27 @@ class HOST_API TForm {
     std::vector<TDataSource*> FFontes;
 };
 
-// Base of a data module.
+struct TCampoDescrito;
+
+// What a field of a data module holds: a value or NULL, a mark, a list, or a record. An enumeration is its name, and
+// what counts as not set (a blank date, an absent list) is NULL.
+using TConteudoDescrito = std::variant<TValor, bool, std::vector<std::string>, std::vector<TCampoDescrito>>;
+
+struct HOST_API TCampoDescrito {
+    std::string Nome;
+    TConteudoDescrito Conteudo;
+};
+
+// Base of a data module. It tells what it holds by name, for those who show it without knowing its class.
 class HOST_API TDMPadrao {
   public:
     TDMPadrao() = default;
     virtual ~TDMPadrao() = default;
     TDMPadrao(const TDMPadrao&) = delete;
     TDMPadrao& operator=(const TDMPadrao&) = delete;
+
+    virtual std::vector<TCampoDescrito> DescreverCampos() const { return {}; } // in order of declaration
+    virtual std::vector<const TZTClientDataSet*> DataSets() const { return {}; }
 };
 
 // Base of the query modules: their SQL datasets are on the suite's connection once created.
@@ -83,6 +102,9 @@ class HOST_API TFormZTTandorPadraoSelecao : public TForm {
   public:
     TFormZTTandorPadraoSelecao(std::string ANome, std::string ATitulo);
     virtual void ActSelecionarExecute(TControle* /*ASender*/) {}
+    // The grid whose rows are in view, null for none.
+    virtual TGrade* GradeEmVista() { return nullptr; }
+    const TDMPadrao* DataModule() const { return FDataModule.get(); } // null before InitializeForm
 
   protected:
     std::unique_ptr<TDMPadrao> FDataModule;
@@ -98,8 +120,10 @@ class HOST_API TFormZTTandorPadraoResult : public TForm {
     // Returns the ModalResult with which the dialog was closed.
     int ShowModal();
     bool Aberto() const { return FAberto; }
+    int ModalResult() const { return FModalResult; } // 0 while it is open
 
     virtual void FormShow() {}
+    void FormKeyDown(TTecla ATecla) override; // Esc leaves by ActSair
     virtual void ActOKExecute(TControle* ASender) = 0;
     virtual void ActSairExecute() { Fechar(ResultadoSair); }
 

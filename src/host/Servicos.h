@@ -6,6 +6,8 @@
 
 namespace host {
 
+class TArmazemLeiautes;
+
 // What the program gives the module to work with. The program owns all of it, and keeps it until the module's windows
 // are gone.
 struct HOST_API TServicos {
@@ -14,6 +16,7 @@ struct HOST_API TServicos {
     TZTEmpresaLogada* EmpresaLogada = nullptr;
     TUtilContabil* Contabil = nullptr;
     TUtilSistema* Sistema = nullptr;
+    TArmazemLeiautes* Leiautes = nullptr; // may be absent: no layouts are kept
 };
 
 // Makes services the current ones for as long as it lives.

@@ -56,6 +56,7 @@ TEST_F(PeriodosDaDemonstracao, VerticalMedeCadaTipoPelaBaseDoMesmoEstabeleciment
     const char* const colunas = "IDFILIAL, IDPLANO, VLRBASE, VLRORCADO, VLRREALIZADO";
     Totalizador(20, colunas, "11, NULL, 200, 400, 0");
     Totalizador(20, colunas, "NULL, NULL, 10, 10, 10"); // its establishment equals none, not even its own
+    Totalizador(20, colunas, "11, 102, 7, 7, 7");       // of an account: no base to anybody
     Totalizador(21, colunas, "11, NULL, 50, 60, 70");   // without a base
     Totalizador(22, colunas, "11, NULL, 50, NULL, 30");
     Totalizador(22, colunas, "11, 101, 25, 100, 30");
@@ -65,16 +66,17 @@ TEST_F(PeriodosDaDemonstracao, VerticalMedeCadaTipoPelaBaseDoMesmoEstabeleciment
     d.FImprimirDetContasTotaliz = true;
     const Campos campos{"NOMECONTA", "DESCTIPOLINHA", "VAL1",      "VALVERT1", "PERC1",
                         "PERC2",     "TOTAL",         "TOTALVERT", "PERCTOT"};
-    EXPECT_EQ(
-        (Lista{"Receita|B|10.00|0.00|||10.00|0.00|", "Receita|O|10.00|0.00|||10.00|0.00|",
-               "Receita|R|10.00|0.00|||10.00|0.00|", "Receita|B|200.00|200.00|100.00||200.00|200.00|100.00",
-               "Receita|O|400.00|400.00|100.00||400.00|400.00|100.00", "Receita|R|0.00|0.00|||0.00|0.00|",
-               "Produtos [10]|B|50.00|0.00|||50.00|0.00|", "Produtos [10]|O|60.00|0.00|||60.00|0.00|",
-               "Produtos [10]|R|70.00|0.00|||70.00|0.00|", "Serviços [10]|B|50.00|200.00|25.00||50.00|200.00|25.00",
-               "Serviços [10]|O|0.00|400.00|0.00||0.00|400.00|0.00", "Serviços [10]|R|30.00|0.00|||30.00|0.00|",
-               "Vendas|B|25.00|200.00|12.50||25.00|200.00|12.50", "Vendas|O|100.00|400.00|25.00||100.00|400.00|25.00",
-               "Vendas|R|30.00|0.00|||30.00|0.00|"}),
-        Abrir("1", campos));
+    EXPECT_EQ((Lista{"Receita|B|10.00|0.00|||10.00|0.00|", "Receita|O|10.00|0.00|||10.00|0.00|",
+                     "Receita|R|10.00|0.00|||10.00|0.00|", "Receita|B|200.00|200.00|100.00||200.00|200.00|100.00",
+                     "Receita|O|400.00|400.00|100.00||400.00|400.00|100.00", "Receita|R|0.00|0.00|||0.00|0.00|",
+                     "Energia|B|7.00|200.00|3.50||7.00|200.00|3.50", "Energia|O|7.00|400.00|1.75||7.00|400.00|1.75",
+                     "Energia|R|7.00|0.00|||7.00|0.00|", "Produtos [10]|B|50.00|0.00|||50.00|0.00|",
+                     "Produtos [10]|O|60.00|0.00|||60.00|0.00|", "Produtos [10]|R|70.00|0.00|||70.00|0.00|",
+                     "Serviços [10]|B|50.00|200.00|25.00||50.00|200.00|25.00",
+                     "Serviços [10]|O|0.00|400.00|0.00||0.00|400.00|0.00", "Serviços [10]|R|30.00|0.00|||30.00|0.00|",
+                     "Vendas|B|25.00|200.00|12.50||25.00|200.00|12.50",
+                     "Vendas|O|100.00|400.00|25.00||100.00|400.00|25.00", "Vendas|R|30.00|0.00|||30.00|0.00|"}),
+              Abrir("1", campos));
 }
 
 TEST_F(PeriodosDaDemonstracao, NomeCompridoEhCortadoEmVezDeDerrubarAConsulta) {

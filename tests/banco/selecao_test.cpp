@@ -103,6 +103,7 @@ using Lista = std::vector<std::string>;
 
 TEST_F(Selecao, CadaModoHabilitaOQueTemSentido) {
     // Company 1: detailed by establishment, with cost centres. One row a control, one column a mode, "+" enabled.
+    // clang-format off
     const std::pair<const char*, const char*> tabela[] = {
         //                                   11 12 13 23 24 25
         {"LkpRelatorioDemonstConfig",       "- - - + + +"},
@@ -125,6 +126,7 @@ TEST_F(Selecao, CadaModoHabilitaOQueTemSentido) {
         {"ChkPerSemMov",                    "- - + + - -"},
         {"CbCenario",                       "+ + + + + -"},
     };
+    // clang-format on
     std::map<std::string, std::string> visto;
     for (const auto& [visualizar, modo] : {std::pair{"1", "1"}, {"1", "2"}, {"1", "3"}, {"2", "3"}, {"2", "4"}, {"2", "5"}}) {
         const bool exato = std::string(modo) == "2";

@@ -1,18 +1,19 @@
 #include "suite/program/ConsultCommand.h"
 
 #include "host/Falhas.h"
+#include "host/Grade.h"
 #include "host/Lookup.h"
 #include "host/Registro.h"
 #include "host/Texto.h"
 #include "suite/program/FillSelection.h"
-#include "suite/program/ResultColumns.h"
+#include "suite/program/TableColumns.h"
+#include "suite/script/GridExport.h"
 #include "suite/script/Rows.h"
+#include "suite/script/WholeFile.h"
 
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <sstream>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -35,74 +36,81 @@ std::string itemOf(const host::TForm& dialog, const char* combo) {
     return host::Trim(control.Itens()[static_cast<std::size_t>(control.ItemIndex())]);
 }
 
-std::string heading(const host::TForm& dialog, const ConsultOptions& options, const Login& login) {
+std::vector<std::string> heading(const host::TForm& dialog, const ConsultOptions& options, const Login& login) {
     std::string what = "por conta";
     if (options.view == "demonstracao") {
         const auto& statement = dynamic_cast<const host::TZTLookupEx&>(dialog.Controle("LkpRelatorioDemonstConfig"));
         what = "- " + statement.Codigo() + " - " + statement.Texto();
     }
-    return "Orçado x realizado " + what + ": " + itemOf(dialog, "CbDetalharSelecao") + "\n" +
-           std::to_string(login.company().Codigo) + " - " + login.company().Nome + "\nPeríodo de " + options.from +
-           " a " + options.to + ", cenário " + itemOf(dialog, "CbCenario") + "\n\n";
+    return {"Orçado x realizado " + what + ": " + itemOf(dialog, "CbDetalharSelecao"),
+            std::to_string(login.company().Codigo) + " - " + login.company().Nome,
+            "Período de " + options.from + " a " + options.to + ", cenário " + itemOf(dialog, "CbCenario")};
 }
 
-void write(std::ostream& out, const host::TDataSet& rows, const ConsultOptions& options, const std::string& heading,
-           bool terminal) {
-    if (options.format == "json") {
-        script::writeJson(out, rows);
-    } else if (options.format == "csv") {
-        script::writeCsv(out, rows, resultColumns(rows));
-    } else {
-        out << heading;
-        script::writeTable(out, rows, resultColumns(rows), tableWidth(terminal), terminal);
-    }
+void writeTable(std::ostream& out, const host::TGrade& grid, const std::vector<std::string>& title, bool terminal) {
+    for (const auto& line : title)
+        out << line << '\n';
+    out << '\n';
+    script::writeTable(out, *grid.DataSet(), tableColumns(grid), tableWidth(terminal), terminal);
 }
 
-// Whole or not at all: an earlier file stays until the new one is complete.
-void writeFile(const host::TDataSet& rows, const ConsultOptions& options, const std::string& heading) {
-    const std::filesystem::path partial = options.output + ".parcial";
-    {
-        std::ofstream out(partial, std::ios::binary);
-        if (options.format == "csv")
-            out << "\xEF\xBB\xBF"; // without it spreadsheets take the accents for another character set
-        write(out, rows, options, heading, false);
+void writeFile(const host::TGrade& grid, const ConsultOptions& options, const std::vector<std::string>& title) {
+    if (options.format != "tabela")
+        return script::exportGrid(grid, options.output, "." + options.format, title);
+    script::writeWhole(options.output, [&](const std::filesystem::path& file) {
+        std::ofstream out(file, std::ios::binary);
+        out.exceptions(std::ios::failbit | std::ios::badbit);
+        writeTable(out, grid, title, false);
         out.close();
-        if (!out) {
-            std::error_code ignored;
-            std::filesystem::remove(partial, ignored);
-            throw host::TFalha("Não foi possível gravar " + options.output +
-                               ". Verifique a pasta, as permissões e o espaço em disco.");
-        }
+    });
+}
+
+void writeOutput(const host::TGrade& grid, const ConsultOptions& options, const std::vector<std::string>& title) {
+    if (options.format == "json")
+        script::writeJson(std::cout, *grid.DataSet());
+    else if (options.format == "csv")
+        script::writeCsv(std::cout, *grid.DataSet(), script::flatColumns(grid));
+    else
+        writeTable(std::cout, grid, title, ::isatty(STDOUT_FILENO) != 0);
+    std::cout.flush();
+    if (!std::cout)
+        throw host::TFalha("Não foi possível escrever o resultado na saída.");
+}
+
+// That of the dataset which the commit has opened; null when the rules have declined it.
+const host::TGrade* resultGrid(const host::TForm& window) {
+    for (const char* name : {"DbgCtbOrcada", "DbgMostraCtbOrcMensal"}) {
+        const auto& grid = dynamic_cast<const host::TGrade&>(window.Controle(name));
+        if (grid.DataSet()->Active())
+            return &grid;
     }
-    std::filesystem::rename(partial, options.output);
+    return nullptr;
 }
 
 } // namespace
 
 ExitCode runConsult(const ConsultOptions& options, const Login& login, script::Headless& interaction) {
+    const bool book = options.format == "xlsx" || options.format == "html";
+    if (book && options.output.empty())
+        throw host::TFalha("O formato " + options.format + " pede um arquivo: use também --saida.");
     const auto factory = host::FindClass("TForm04618");
     if (!factory)
         throw host::TFalha("O módulo carregado não tem a janela de consulta.");
     const auto window = factory();
     window->InitializeForm();
-    std::string title;
+    std::vector<std::string> title;
     interaction.onModal = [&](host::TFormZTTandorPadraoResult& form) {
         fillSelection(form, options, interaction);
         title = heading(form, options, login);
     };
     window->Executar(window->Acao("ActSelecionar"));
-    const auto& balance = window->DataSet("CdsMostraCtbOrcada");
-    const auto& rows = balance.Active() ? balance : window->DataSet("CdsMostraCtbOrcMensal");
-    if (!rows.Active())
+    const auto* grid = resultGrid(*window);
+    if (!grid)
         return ExitCode::Refused; // the rules have said why
-    if (!options.output.empty()) {
-        writeFile(rows, options, title);
-        return ExitCode::Done;
-    }
-    write(std::cout, rows, options, title, ::isatty(STDOUT_FILENO) != 0);
-    std::cout.flush();
-    if (!std::cout)
-        throw host::TFalha("Não foi possível escrever o resultado na saída.");
+    if (options.output.empty())
+        writeOutput(*grid, options, title);
+    else
+        writeFile(*grid, options, title);
     return ExitCode::Done;
 }
 

@@ -59,6 +59,15 @@ CLI::Validator number(std::int64_t least, std::int64_t most) {
             ""};
 }
 
+// Of a file to read; "-" is standard input.
+CLI::Validator readable() {
+    return {[](std::string& given) {
+                const bool read = given == "-" || (!std::filesystem::is_directory(given) && std::ifstream(given));
+                return read ? std::string() : "o arquivo \"" + given + "\" não pôde ser lido";
+            },
+            ""};
+}
+
 constexpr std::int64_t LargestCode = 999'999'999'999;
 
 // The library's complaints are English; ours say what to do.
@@ -98,7 +107,8 @@ void addConsultOptions(CLI::App& command, ConsultOptions& options) {
         ->check(oneOf({"orcado", "base", "vertical"}));
     command.add_flag("--diferenca", options.difference, "percentual pelo valor da diferença");
     command.add_flag("--periodos-sem-movimento", options.idlePeriods, "mostra também os períodos sem movimento");
-    add("--formato", options.format, "tabela (padrão), csv ou json", "T")->check(oneOf({"tabela", "csv", "json"}));
+    add("--formato", options.format, "tabela (padrão), csv, json, xlsx ou html", "T")
+        ->check(oneOf({"tabela", "csv", "json", "xlsx", "html"}));
     add("--saida", options.output, "grava o resultado no arquivo F", "F");
 }
 
@@ -111,6 +121,7 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
     std::string passwordFile;
     ConsultOptions consult;
     DemoOptions demo;
+    ScriptOptions script;
 
     CLI::App app("Orçado x realizado: compara o que as projeções orçaram com o que o diário contabilizou.", "orcreal");
     translateHelp(app);
@@ -150,7 +161,13 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
     demoCommand->add_option("--escala", demo.scale, "multiplica projeções, contas e diário (padrão 1)")
         ->type_name("N")
         ->check(number(1, 1000));
-    for (auto* command : {consultCommand, demoCommand}) {
+
+    auto* scriptCommand = app.add_subcommand("roteiro", "executa um roteiro na janela e escreve o que acontece em JSON");
+    scriptCommand->add_option("F", script.file, "o roteiro, um passo por linha; - lê a entrada padrão")
+        ->type_name("")
+        ->required()
+        ->check(readable());
+    for (auto* command : {consultCommand, demoCommand, scriptCommand}) {
         command->group("Comandos");
         command->set_help_flag("-h,--help,--ajuda", "mostra esta ajuda")->group("Opções do comando");
         command->formatter(app.get_formatter());
@@ -170,6 +187,8 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
         return wrongUse("O arquivo de opções " + app.get_config_ptr()->as<std::string>() + " não pôde ser lido");
     } catch (const CLI::ConfigError& error) {
         return wrongUse("O arquivo de opções tem uma linha que não se entende: " + behind(error.what(), ": "));
+    } catch (const CLI::RequiredError&) {
+        return wrongUse("Falta o arquivo do roteiro; \"-\" lê a entrada padrão");
     } catch (const CLI::ArgumentMismatch& error) {
         return wrongUse("Falta o valor da opção " + std::string(error.what()).substr(0, std::string(error.what()).find(':')));
     } catch (const CLI::ParseError& error) {
@@ -180,6 +199,8 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
         options.consult = consult;
     if (demoCommand->parsed())
         options.demo = demo;
+    if (scriptCommand->parsed())
+        options.script = script;
     return {options, {}, false};
 }
 

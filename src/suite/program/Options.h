@@ -36,6 +36,10 @@ struct DemoOptions {
     int scale = 1;
 };
 
+struct ScriptOptions {
+    std::string file; // "-": standard input
+};
+
 // A command line, read. Exactly one of the commands is set, or none for the bare program.
 struct Options {
     std::string database; // empty: the demo database
@@ -43,6 +47,7 @@ struct Options {
     LoginRequest login;
     std::optional<ConsultOptions> consult;
     std::optional<DemoOptions> demo;
+    std::optional<ScriptOptions> script;
 };
 
 // What is left to do after reading the command line: run, or end with a text already known.

@@ -6,8 +6,11 @@
 #include "suite/firebird/Connection.h"
 #include "suite/program/ConsultCommand.h"
 #include "suite/program/Interrupt.h"
+#include "suite/program/LayoutStore.h"
 #include "suite/program/Module.h"
 #include "suite/program/Options.h"
+#include "suite/program/ScriptCommand.h"
+#include "suite/program/UserFolder.h"
 #include "suite/script/Headless.h"
 #include "suite/script/TerminalProgress.h"
 
@@ -77,9 +80,11 @@ ExitCode runOnDatabase(const Options& options, Interrupt& interrupt) {
     services.EmpresaLogada = &login;
     services.Contabil = &login;
     services.Sistema = &login;
+    LayoutStore layouts(userFolder("XDG_DATA_HOME", ".local/share") / "leiautes");
+    services.Leiautes = &layouts;
     const host::TInstalacaoServicos loggedIn(services);
     const Module module(moduleFile());
-    return runConsult(*options.consult, login, interaction);
+    return options.script ? runScript(*options.script) : runConsult(*options.consult, login, interaction);
 }
 
 std::string versionText() {
@@ -92,7 +97,7 @@ std::string versionText() {
 ExitCode runCommand(const Options& options, Interrupt& interrupt) {
     if (options.demo)
         return runDemo(*options.demo, interrupt);
-    if (options.consult)
+    if (options.consult || options.script)
         return runOnDatabase(options, interrupt);
     std::cerr << "Informe um comando: \"consultar\" ou \"demo\". Veja \"orcreal --ajuda\".\n";
     return ExitCode::WrongUse;

@@ -1,6 +1,5 @@
 #include "suite/script/FormDriver.h"
 
-#include "host/Falhas.h"
 #include "host/Lookup.h"
 #include "host/Texto.h"
 
@@ -16,14 +15,14 @@ void pick(host::TZTComboBox& combo, const std::string& value) {
         std::string list;
         for (const auto& known : values)
             list += (list.empty() ? "" : ", ") + known;
-        throw host::TFalha(combo.Nome() + " não tem o valor \"" + value + "\". Valores: " + list + ".");
+        throw WrongUse(combo.Nome() + " não tem o valor \"" + value + "\". Valores: " + list + ".");
     }
     combo.SetValorSelecionado(value);
 }
 
 void tick(host::TZTCheckBox& box, const std::string& value) {
     if (value != "0" && value != "1")
-        throw host::TFalha(box.Nome() + " aceita 1 ou 0, e não \"" + value + "\".");
+        throw WrongUse(box.Nome() + " aceita 1 ou 0, e não \"" + value + "\".");
     box.SetChecked(value == "1");
 }
 
@@ -42,7 +41,7 @@ std::vector<std::size_t> rowsOf(const host::TZTLookupEx& lookup, const host::TDa
             if (TextoDe(column.Valor(search.LinhaDe(i))) == item.substr(key ? 1 : 0))
                 rows.push_back(i + 1);
         if (rows.size() == before)
-            throw host::TFalha("A pesquisa de " + lookup.Nome() + " não tem o registro \"" + item + "\".");
+            throw WrongUse("A pesquisa de " + lookup.Nome() + " não tem o registro \"" + item + "\".");
     }
     std::sort(rows.begin(), rows.end());
     rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
@@ -53,33 +52,67 @@ void choose(host::TZTLookupEx& lookup, const std::string& value) {
     if (!value.starts_with('#') && !value.starts_with('{'))
         return lookup.Digitar(value);
     const auto search = lookup.Pesquisar();
-    if (value.starts_with('#'))
+    if (value.starts_with('#') && value.find(',') == std::string::npos)
         return lookup.Escolher(*search, rowsOf(lookup, *search, value).front());
-    if (!value.ends_with('}') || !lookup.Definicao().MultiSelecao)
-        throw host::TFalha(lookup.Nome() + " não aceita \"" + value + "\".");
+    if (!value.starts_with('{') || !value.ends_with('}') || !lookup.Definicao().MultiSelecao)
+        throw WrongUse(lookup.Nome() + " não aceita \"" + value + "\".");
     lookup.Marcar(*search, rowsOf(lookup, *search, std::string_view(value).substr(1, value.size() - 2)));
+}
+
+// A rule that refuses has told the user; he goes on.
+template <class TAct>
+void asUser(TAct act) {
+    try {
+        act();
+    } catch (const host::Abort&) { // the rule has told the user
+    }
+}
+
+void requireEnabled(const host::TControle& control) {
+    if (!control.Enabled())
+        throw WrongUse(control.Nome() + " está desabilitado para esta escolha.");
 }
 
 } // namespace
 
-void FormDriver::define(std::string_view name, const std::string& value) {
-    auto& control = form_.Controle(name);
-    if (!control.Enabled())
-        throw host::TFalha(control.Nome() + " está desabilitado para esta escolha.");
-    if (auto* box = dynamic_cast<host::TZTCheckBox*>(&control))
-        tick(*box, value);
-    else if (auto* combo = dynamic_cast<host::TZTComboBox*>(&control))
-        pick(*combo, value);
-    else if (auto* date = dynamic_cast<host::TZTDateEdit*>(&control))
-        date->SetTexto(value);
-    else if (auto* lookup = dynamic_cast<host::TZTLookupEx*>(&control))
-        choose(*lookup, value);
-    else
-        throw host::TFalha(control.Nome() + " não recebe valor.");
+host::TControle& FormDriver::control(const host::TForm& form, std::string_view name) {
+    try {
+        return form.Controle(name);
+    } catch (const host::TFalha& unknown) {
+        throw WrongUse(unknown.what());
+    }
 }
 
-void FormDriver::leave(std::string_view control) { form_.SairDe(form_.Controle(control)); }
+void FormDriver::define(std::string_view name, const std::string& value) {
+    auto& target = control(form_, name);
+    requireEnabled(target);
+    asUser([&] {
+        if (auto* box = dynamic_cast<host::TZTCheckBox*>(&target))
+            tick(*box, value);
+        else if (auto* combo = dynamic_cast<host::TZTComboBox*>(&target))
+            pick(*combo, value);
+        else if (auto* date = dynamic_cast<host::TZTDateEdit*>(&target))
+            date->SetTexto(value);
+        else if (auto* lookup = dynamic_cast<host::TZTLookupEx*>(&target))
+            choose(*lookup, value);
+        else
+            throw WrongUse(target.Nome() + " não recebe valor.");
+    });
+}
 
-void FormDriver::click(std::string_view action) { form_.Executar(form_.Acao(action)); }
+void FormDriver::leave(std::string_view name) { form_.SairDe(control(form_, name)); }
+
+void FormDriver::click(std::string_view name) {
+    auto& target = control(form_, name);
+    requireEnabled(target);
+    if (auto* action = dynamic_cast<host::TAction*>(&target))
+        form_.Executar(*action);
+    else if (auto* box = dynamic_cast<host::TZTCheckBox*>(&target))
+        asUser([&] { box->SetChecked(!box->Checked()); });
+    else
+        throw WrongUse(target.Nome() + " não é um botão, uma ação ou uma caixa de marcar.");
+}
+
+void FormDriver::press(std::string_view name, host::TTecla key) { form_.Teclar(control(form_, name), key); }
 
 } // namespace suite::script

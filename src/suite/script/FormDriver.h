@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/Falhas.h"
 #include "host/Formularios.h"
 
 #include <string>
@@ -7,17 +8,29 @@
 
 namespace suite::script {
 
-// What a user does to a form, by the names of its controls. An unknown name, a disabled control, or a value that the
-// kind of control does not take is a host::TFalha.
+// What no user could do: an unknown name, a disabled control, a value that the control does not take.
+class WrongUse : public host::TFalha {
+  public:
+    using host::TFalha::TFalha;
+};
+
+// What a user does to a form, by the names of its controls. What no user could do is a WrongUse. An Abort of a rule
+// ends here, its message having been shown; other failures pass.
 class FormDriver {
   public:
     explicit FormDriver(host::TForm& form) : form_(form) {}
 
-    // Types or picks. Check box: "1" or "0"; date: "dd/mm/aaaa" or nothing; combo: the value; lookup: a code, "#KEY" for
-    // the record with that key, "{7,9}" or "{#100,#200}" for records marked in its search, "{}" marked and then none.
+    // Types or picks. Check box: "1" or "0"; date: "dd/mm/aaaa" or nothing; combo: the value; lookup: a code, "#KEY"
+    // for the record with that key, "{7,9}" or "{#100,#200}" for records marked in its search, "{}" marked and then
+    // none.
     void define(std::string_view control, const std::string& value);
     void leave(std::string_view control);
-    void click(std::string_view action);
+    // On a check box, which changes, or on an action.
+    void click(std::string_view name);
+    void press(std::string_view control, host::TTecla key);
+
+    // Throws WrongUse, which lists what there is.
+    static host::TControle& control(const host::TForm& form, std::string_view name);
 
   private:
     host::TForm& form_;

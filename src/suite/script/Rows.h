@@ -5,7 +5,6 @@
 #include <ostream>
 #include <span>
 #include <string>
-#include <string_view>
 
 namespace suite::script {
 
@@ -21,14 +20,13 @@ struct ShownColumn {
 
 // {"dados":...,"colunas":[...],"linhas":[[...],...]}: every field, numbers exact with the scale of their column.
 void writeJson(std::ostream& out, const host::TDataSet& rows);
+// The members alone, without braces, all on one line.
+void writeJsonMembers(std::ostream& out, const host::TDataSet& rows);
 // For spreadsheets in Brazil: ";" between cells, decimal comma, no thousands points, titles in the first line.
 void writeCsv(std::ostream& out, const host::TDataSet& rows, std::span<const ShownColumn> columns);
 // For people: aligned, Brazilian number formats, at most width characters a line; rows of title accounts in bold where
 // the terminal has it. A last line sums the analytic accounts.
 void writeTable(std::ostream& out, const host::TDataSet& rows, std::span<const ShownColumn> columns, std::size_t width,
                 bool bold);
-
-// A JSON string, quotes included.
-std::string quoteJson(std::string_view text);
 
 } // namespace suite::script

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "host/Grade.h"
+
+#include <vector>
+
+namespace pct04618 {
+
+using TColunasGrade = std::vector<host::TColunaGrade>;
+
+// The two result grids as they are designed: all columns in order.
+TColunasGrade ColunasDbtvCtbOrcada();
+TColunasGrade ColunasDbtvMostraCtbOrcMensal();
+
+// Captions and visibility of the period columns, from the periods that the current record names.
+TColunasGrade EstruturarColunasPeriodo(TColunasGrade AColunas, const host::TDataSet& ADataSet);
+
+// What the default layout of each grid makes sure of: grouped by establishment first, and the columns hidden that only
+// the rules read.
+void AplicarPadraoDbtvCtbOrcada(TColunasGrade& AColunas);
+void AplicarPadraoDbtvMostraCtbOrcMensal(TColunasGrade& AColunas);
+
+} // namespace pct04618

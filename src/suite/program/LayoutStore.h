@@ -1,0 +1,28 @@
+#pragma once
+
+#include "host/Leiaute.h"
+
+#include <filesystem>
+
+namespace suite::program {
+
+// Grid layouts as small text files, one a layout: FOLDER/user/key/name.leiaute. A file that cannot be read is never
+// overwritten: whoever stores another under its name finds it moved aside, with ".danificado" behind its name.
+class LayoutStore final : public host::TArmazemLeiautes {
+  public:
+    // The folder need not exist yet.
+    explicit LayoutStore(std::filesystem::path folder) : folder_(std::move(folder)) {}
+
+    std::vector<std::string> Listar(const host::TDonoLeiautes& owner) const override;
+    host::TLeiaute Ler(const host::TDonoLeiautes& owner, const std::string& name) const override;
+    void Gravar(const host::TDonoLeiautes& owner, const std::string& name, const host::TLeiaute& layout) override;
+    void Excluir(const host::TDonoLeiautes& owner, const std::string& name) override;
+
+  private:
+    std::filesystem::path folderOf(const host::TDonoLeiautes& owner) const;
+    std::filesystem::path fileOf(const host::TDonoLeiautes& owner, const std::string& name) const;
+
+    std::filesystem::path folder_;
+};
+
+} // namespace suite::program

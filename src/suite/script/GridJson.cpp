@@ -1,0 +1,55 @@
+#include "suite/script/GridJson.h"
+
+#include <cstdio>
+
+namespace suite::script {
+
+namespace {
+
+std::string colour(const std::optional<host::TCor>& value) {
+    if (!value)
+        return "null";
+    char text[12];
+    std::snprintf(text, sizeof text, "\"#%06X\"", static_cast<unsigned>(*value & 0xFFFFFFU));
+    return text;
+}
+
+std::string formatOf(const host::TGrade& grid, const host::TColunaGrade& column) {
+    const auto* field = grid.DataSet() ? grid.DataSet()->FindField(column.Campo) : nullptr;
+    return column.Formato.empty() && field ? field->FormatoExibicao : column.Formato;
+}
+
+} // namespace
+
+std::string describeColumns(const host::TGrade& grid) {
+    std::vector<std::string> columns;
+    for (const auto& column : grid.Colunas()) {
+        JsonObject members;
+        members.add("campo", quoteJson(column.Campo))
+            .add("titulo", quoteJson(column.Titulo))
+            .add("faixa", jsonTextOrNull(column.Faixa))
+            .add("visivel", jsonFlag(column.Visivel))
+            .add("formato", jsonTextOrNull(formatOf(grid, column)))
+            .add("grupo", column.Grupo < 0 ? "null" : std::to_string(column.Grupo));
+        columns.push_back(members.text());
+    }
+    return jsonList(columns);
+}
+
+JsonObject describeCells(const host::TGrade& grid, std::size_t row, bool selected) {
+    JsonObject cells;
+    for (const auto& column : grid.Colunas()) {
+        const auto cell = grid.Celula(row, column, selected);
+        const auto look = grid.Aparencia(cell);
+        JsonObject members;
+        members.add("texto", quoteJson(cell.Texto()))
+            .add("negrito", jsonFlag(look.Negrito))
+            .add("fonte", colour(look.Fonte))
+            .add("fundo", colour(look.Fundo))
+            .add("vazio", jsonFlag(look.Vazio));
+        cells.add(column.Campo, members.text());
+    }
+    return cells;
+}
+
+} // namespace suite::script

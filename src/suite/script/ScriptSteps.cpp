@@ -1,0 +1,76 @@
+#include "suite/script/GridExport.h"
+#include "suite/script/ScriptRunner.h"
+#include "suite/script/Show.h"
+
+#include "host/Texto.h"
+
+#include <map>
+
+namespace suite::script {
+
+namespace {
+
+int positive(const std::string& word) {
+    const auto number = host::NumeroOuZero(word);
+    if (number < 1)
+        throw WrongUse("\"" + word + "\" não é um número a partir de 1.");
+    return number;
+}
+
+} // namespace
+
+void ScriptRunner::open(const Words&) {
+    if (window_)
+        throw WrongUse("A janela já está aberta; \"abrir\" é o primeiro passo.");
+    window_ = factory_();
+    forms_.push_back(window_.get());
+    window_->InitializeForm();
+}
+
+void ScriptRunner::select(const Words&) { FormDriver(*window_).click("ActSelecionar"); }
+
+void ScriptRunner::updateActuals(const Words&) { FormDriver(*window_).click("ActAtualizarRealizado"); }
+
+void ScriptRunner::define(const Words& words) {
+    FormDriver(front()).define(words.front(), words.size() > 1 ? words.back() : std::string());
+}
+
+void ScriptRunner::leave(const Words& words) { FormDriver(front()).leave(words.front()); }
+
+void ScriptRunner::click(const Words& words) { FormDriver(front()).click(words.front()); }
+
+void ScriptRunner::press(const Words& words) {
+    static const std::map<std::string, host::TTecla> Keys{{"Enter", host::TTecla::Enter},
+                                                          {"Baixo", host::TTecla::Baixo},
+                                                          {"F11", host::TTecla::F11},
+                                                          {"Esc", host::TTecla::Esc}};
+    const auto key = Keys.find(words.back());
+    if (key == Keys.end())
+        throw WrongUse("A tecla \"" + words.back() + "\" não existe. Existem: Enter, Baixo, F11, Esc.");
+    FormDriver(front()).press(words.front(), key->second);
+}
+
+void ScriptRunner::answer(const Words& words) {
+    const auto code = host::NumeroOuZero(words.front());
+    if (code != 6 && code != 7 && code != 2)
+        throw WrongUse("Uma resposta é 6, 7 ou 2, e não \"" + words.front() + "\".");
+    interaction_.answer(code);
+}
+
+void ScriptRunner::cancel(const Words& words) { interaction_.cancelAtStep(positive(words.front())); }
+
+void ScriptRunner::print(const Words&) { throw host::TFalha("A impressão não faz parte desta versão."); }
+
+void ScriptRunner::exportView(const Words& words) {
+    const auto* grid = window_->GradeEmVista();
+    if (!grid)
+        throw WrongUse("Nenhuma grade está à vista para exportar.");
+    std::vector<std::string> title{window_->Titulo()};
+    if (auto text = titleInView(*window_); !text.empty())
+        title.push_back(std::move(text));
+    exportGrid(*grid, words.front(), title);
+}
+
+void ScriptRunner::showSubject(const Words& words) { show(out_, {*window_, front()}, words.front()); }
+
+} // namespace suite::script
