@@ -15,9 +15,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string Aspas(const fs::path& ACaminho) {
-    return "\"" + ACaminho.string() + "\"";
-}
+std::string Aspas(const fs::path& ACaminho) { return "\"" + ACaminho.string() + "\""; }
 
 [[noreturn]] void JaExiste(const fs::path& ADestino) {
     throw host::TFalha("O arquivo " + Aspas(ADestino) +

@@ -6,7 +6,7 @@ namespace demo {
 
 // The file that grows beside its destination. It is gone again with this object unless it was delivered.
 class TArquivoParcial {
-public:
+  public:
     // Refuses a destination that exists or cannot be written, and a partial file that another process is writing; one
     // that a killed run left is removed. Throws host::TFalha.
     explicit TArquivoParcial(std::filesystem::path ADestino);
@@ -18,7 +18,7 @@ public:
     // Gives the whole file its name. Throws host::TFalha when a file of that name appeared meanwhile.
     void Entregar();
 
-private:
+  private:
     bool RemoverSeLivre() const;
 
     std::filesystem::path FDestino;

@@ -18,7 +18,7 @@ namespace demo {
 
 // How far the making is. It tells whoever asked for it now and then, and not at every row.
 class TAndamento {
-public:
+  public:
     using TProgresso = std::function<void(const std::string& ATexto, std::size_t AFeito, std::size_t ATotal)>;
 
     explicit TAndamento(TProgresso AProgresso) : FProgresso(std::move(AProgresso)) {}
@@ -26,7 +26,7 @@ public:
     void SetTexto(std::string ATexto);
     void Avancar(std::size_t AQuantos = 1);
 
-private:
+  private:
     void Avisar();
 
     TProgresso FProgresso;
@@ -38,25 +38,19 @@ private:
 
 // Rows on their way into one table.
 class TCarga {
-public:
+  public:
     TCarga(suite::firebird::Transaction& ATransacao, std::string ATabela, std::vector<std::string> AColunas)
         : FInclusao(ATransacao, std::move(ATabela), std::move(AColunas)) {}
     void Linha(std::initializer_list<host::TValor> AValores) { FInclusao.add({AValores.begin(), AValores.size()}); }
     void Terminar() { FInclusao.flush(); }
 
-private:
+  private:
     suite::firebird::BulkInsert FInclusao;
 };
 
-inline host::TValor Dinheiro(TCentavos AValor) {
-    return host::TDecimal{AValor, 2};
-}
+inline host::TValor Dinheiro(TCentavos AValor) { return host::TDecimal{AValor, 2}; }
 // A key, of which zero means none.
-inline host::TValor ChaveOuNulo(std::int64_t AChave) {
-    return AChave == 0 ? host::Nulo : host::Inteiro(AChave);
-}
-inline host::TValor Texto(std::string_view ATexto) {
-    return std::string(ATexto);
-}
+inline host::TValor ChaveOuNulo(std::int64_t AChave) { return AChave == 0 ? host::Nulo : host::Inteiro(AChave); }
+inline host::TValor Texto(std::string_view ATexto) { return std::string(ATexto); }
 
 } // namespace demo

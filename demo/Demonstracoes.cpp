@@ -127,7 +127,7 @@ std::vector<std::string_view> Palavras(std::string_view ATexto, char ASeparador)
 }
 
 class TGravacao {
-public:
+  public:
     TGravacao(suite::firebird::Transaction& ATransacao, const TPlano& APlano)
         : FPlano(APlano), FVinculos(ATransacao, "CO01_DEMACTOTREL",
                                     {"IDDEMACTOT", "IDPLANO", "IDPLANOSUB", "IDCENTROCUSTO", "IDDEMACTOTRELAC"}) {
@@ -157,7 +157,7 @@ public:
     }
     void Terminar() { FVinculos.Terminar(); }
 
-private:
+  private:
     void Conta(int ADono, int ALugar, int ASub, int ACentro) {
         FVinculos.Linha(
             {Inteiro(ADono), Inteiro(FPlano.Conta(ALugar).Id), ChaveOuNulo(ASub), ChaveOuNulo(ACentro), host::Nulo});

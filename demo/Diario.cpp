@@ -19,9 +19,7 @@ constexpr int MesDoHistoricoLongo = 5;
 enum TSorteio { RuidoDoMes = 11, PesoDaNota, DiaDaNota, TextoDaNota, LivroNulo, HaEstorno };
 
 // The normal book is written as 0 or as nothing at all.
-int LivroNormal(std::int64_t ASemente, int AMes) {
-    return Sortear({ASemente, AMes, LivroNulo}) % 4 == 0 ? 0 : -1;
-}
+int LivroNormal(std::int64_t ASemente, int AMes) { return Sortear({ASemente, AMes, LivroNulo}) % 4 == 0 ? 0 : -1; }
 
 } // namespace
 
@@ -31,9 +29,7 @@ TDiario::TDiario(suite::firebird::Transaction& ATransacao, TOrcamento& AOrcament
                                        "ORIGEM", "TPCTB", "HISTORICO"}),
       FCusto(ATransacao, "CO01_DIARIOCUSTO", {"IDDIARIO", "IDCENTROCUSTO", "VALOR"}) {}
 
-const TConta& TDiario::Conta(const TChave& AChave) const {
-    return FOrcamento.Plano().Conta(AChave.Conta);
-}
+const TConta& TDiario::Conta(const TChave& AChave) const { return FOrcamento.Plano().Conta(AChave.Conta); }
 
 // Roughly what the month books: the budget of the normal scenario, the departure that the account was given, noise.
 TCentavos TDiario::Alvo(const TChave& AChave, int AMes) const {

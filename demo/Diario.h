@@ -9,7 +9,7 @@ namespace demo {
 // The journal, written month by month. What it books in the normal book is added up on the lines of the budget, so
 // that their actuals are the journal's own sums.
 class TDiario {
-public:
+  public:
     TDiario(suite::firebird::Transaction& ATransacao, TOrcamento& AOrcamento);
 
     void GravarMes(int AMes, TAndamento& AAndamento);
@@ -17,7 +17,7 @@ public:
     void GravarEncerramento();
     void Terminar();
 
-private:
+  private:
     struct TQuota {
         int Centro; // key
         TCentavos Valor;

@@ -30,9 +30,7 @@ std::string Um(const std::string_view (&ALista)[N], std::uint64_t ASorteio) {
     return std::string(ALista[ASorteio % N]);
 }
 
-std::string Numero(std::uint64_t ASorteio) {
-    return std::to_string(10'000 + ASorteio % 89'999);
-}
+std::string Numero(std::uint64_t ASorteio) { return std::to_string(10'000 + ASorteio % 89'999); }
 
 } // namespace
 

@@ -26,8 +26,6 @@ static_assert(SomamDozeMil());
 
 } // namespace
 
-const TPesosDoAno& PesosDoAno(TSazonal ASazonal) {
-    return Pesos[static_cast<std::size_t>(ASazonal)];
-}
+const TPesosDoAno& PesosDoAno(TSazonal ASazonal) { return Pesos[static_cast<std::size_t>(ASazonal)]; }
 
 } // namespace demo

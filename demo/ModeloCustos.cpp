@@ -43,8 +43,6 @@ constexpr TModeloConta Contas[] = {
 
 } // namespace
 
-std::span<const TModeloConta> ContasDeCusto() {
-    return Contas;
-}
+std::span<const TModeloConta> ContasDeCusto() { return Contas; }
 
 } // namespace demo

@@ -120,14 +120,8 @@ constexpr TDescarga TodasAsDescargas[] = {
 
 } // namespace
 
-std::span<const TModeloConta> ContasDeDespesa() {
-    return Contas;
-}
-std::span<const TModeloConta> ContasGerenciais() {
-    return Gerenciais;
-}
-std::span<const TDescarga> Descargas() {
-    return TodasAsDescargas;
-}
+std::span<const TModeloConta> ContasDeDespesa() { return Contas; }
+std::span<const TModeloConta> ContasGerenciais() { return Gerenciais; }
+std::span<const TDescarga> Descargas() { return TodasAsDescargas; }
 
 } // namespace demo

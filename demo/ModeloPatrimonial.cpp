@@ -121,8 +121,6 @@ constexpr TModeloConta Contas[] = {
 
 } // namespace
 
-std::span<const TModeloConta> ContasPatrimoniais() {
-    return Contas;
-}
+std::span<const TModeloConta> ContasPatrimoniais() { return Contas; }
 
 } // namespace demo

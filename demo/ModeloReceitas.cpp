@@ -46,8 +46,6 @@ constexpr TModeloConta Contas[] = {
 
 } // namespace
 
-std::span<const TModeloConta> ContasDeReceita() {
-    return Contas;
-}
+std::span<const TModeloConta> ContasDeReceita() { return Contas; }
 
 } // namespace demo

@@ -46,7 +46,7 @@ struct TProjecao {
 // year, when there was no journal yet, the plan; so a month of the second year is prepared after the journal of the
 // same month of the first.
 class TOrcamento {
-public:
+  public:
     TOrcamento(const TPlano& APlano, std::span<const TEmpresa> AEmpresas);
 
     const TPlano& Plano() const { return FPlano; }
@@ -65,7 +65,7 @@ public:
     // Hundredths of a percent by which the budget departs from the updated base; 0 without a base.
     static std::int64_t Percentual(TCentavos ABase, int AIndice, TCentavos AOrcado);
 
-private:
+  private:
     void AbrirConta(int AEmpresa, int AConta);
     TCentavos Planejado(const TChave& AChave, int AMes) const;
     TCentavos Orcar(const TChave& AChave, int AMes, int ACenario, TCentavos ABase) const;

@@ -72,25 +72,13 @@ constexpr TUsuarioAtrib UsuariosAtrib[] = {
 
 } // namespace
 
-std::span<const TEmpresa> Empresas() {
-    return TodasAsEmpresas;
-}
-std::span<const TFilial> Filiais() {
-    return TodasAsFiliais;
-}
-std::span<const TCentroCusto> CentrosCusto() {
-    return TodosOsCentros;
-}
+std::span<const TEmpresa> Empresas() { return TodasAsEmpresas; }
+std::span<const TFilial> Filiais() { return TodasAsFiliais; }
+std::span<const TCentroCusto> CentrosCusto() { return TodosOsCentros; }
 
-const TEmpresa& Empresa(int ALugar) {
-    return TodasAsEmpresas[ALugar];
-}
-const TFilial& Filial(int ALugar) {
-    return TodasAsFiliais[ALugar];
-}
-const TCentroCusto& CentroCusto(int ALugar) {
-    return TodosOsCentros[ALugar];
-}
+const TEmpresa& Empresa(int ALugar) { return TodasAsEmpresas[ALugar]; }
+const TFilial& Filial(int ALugar) { return TodasAsFiliais[ALugar]; }
+const TCentroCusto& CentroCusto(int ALugar) { return TodosOsCentros[ALugar]; }
 
 int LugarDoCentro(int ACodigo) {
     const auto LAchado = std::find_if(std::begin(TodosOsCentros), std::end(TodosOsCentros),

@@ -43,9 +43,7 @@ std::span<const TCentroCusto> CentrosCusto();
 const TEmpresa& Empresa(int ALugar);
 const TFilial& Filial(int ALugar);
 const TCentroCusto& CentroCusto(int ALugar);
-inline const TEmpresa& Holding() {
-    return Empresas().front();
-}
+inline const TEmpresa& Holding() { return Empresas().front(); }
 
 // Place of a cost centre, by its code.
 int LugarDoCentro(int ACodigo);

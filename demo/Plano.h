@@ -29,7 +29,7 @@ struct TConta {
 // The chart of accounts of the holding. At a scale above 1 each account with movement has that many siblings less
 // one, behind all other accounts, so that the accounts of scale 1 are the same at every scale.
 class TPlano {
-public:
+  public:
     explicit TPlano(int AEscala);
 
     const std::vector<TConta>& Contas() const { return FContas; }
@@ -43,7 +43,7 @@ public:
 
     void Gravar(suite::firebird::Transaction& ATransacao) const;
 
-private:
+  private:
     void Acrescentar(const TModeloConta& AModelo, std::string AClassif, std::string ANome);
     void Subir(int AConta, std::vector<int>& ADestino) const;
     void GravarFinalidades(suite::firebird::Transaction& ATransacao) const;

@@ -15,9 +15,7 @@ constexpr int LivroNormal = 1;
 constexpr int LivrosNormalESocietario = 3;
 constexpr int ProjecaoTotal = 3;
 
-int LugarNaLista(int AFilial) {
-    return AFilial + 1;
-}
+int LugarNaLista(int AFilial) { return AFilial + 1; }
 
 } // namespace
 
@@ -39,9 +37,7 @@ TProjecoes::TProjecoes(const TOrcamento& AOrcamento) : FOrcamento(AOrcamento) {
         LMensais(2, LTerceira.PrimeiraFilial + i, 0);
 }
 
-std::size_t TProjecoes::Passos() const {
-    return FCabecalhos.size() * FOrcamento.Chaves().size();
-}
+std::size_t TProjecoes::Passos() const { return FCabecalhos.size() * FOrcamento.Chaves().size(); }
 
 void TProjecoes::Gravar(suite::firebird::Transaction& ATransacao, TAndamento& AAndamento) {
     TCarga LCabecalhos(ATransacao, "CO01_CTBORCADAINF",

@@ -10,14 +10,14 @@ namespace demo {
 
 // Headers and value rows: the lines of the budget over each period, and above them the synthetic accounts.
 class TProjecoes {
-public:
+  public:
     explicit TProjecoes(const TOrcamento& AOrcamento);
 
     // Steps that Gravar will report.
     std::size_t Passos() const;
     void Gravar(suite::firebird::Transaction& ATransacao, TAndamento& AAndamento);
 
-private:
+  private:
     struct TCabecalho {
         int Empresa; // place in Empresas
         int Filial;  // place in Filiais of a header of one establishment, -1 for the whole company

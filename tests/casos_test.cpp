@@ -163,7 +163,9 @@ class TesteDeCaso : public testing::Test {
   private:
     static void comparar(const std::string& esperado, const std::string& obtido, const std::string& nome) {
         EXPECT_TRUE(confere(std::istringstream(esperado), std::istringstream(obtido)))
-            << "[" << nome << "] expected:\n" << esperado << "[" << nome << "] got:\n" << obtido;
+            << "[" << nome << "] expected:\n"
+            << esperado << "[" << nome << "] got:\n"
+            << obtido;
     }
     fs::path arquivo_;
 };

@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 namespace fb = suite::firebird;
 
 class Demo : public testing::Test {
-protected:
+  protected:
     static void SetUpTestSuite() {
         std::string name = (fs::temp_directory_path() / "orcreal-demo-XXXXXX").string();
         ASSERT_NE(::mkdtemp(name.data()), nullptr);

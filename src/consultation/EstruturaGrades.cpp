@@ -40,8 +40,8 @@ host::TColunaGrade Identificacao(host::TColunaGrade AColuna) {
 }
 
 host::TColunaGrade& Achar(TColunasGrade& AColunas, const std::string& ACampo) {
-    const auto LColuna = std::find_if(AColunas.begin(), AColunas.end(),
-                                      [&](const host::TColunaGrade& C) { return C.Campo == ACampo; });
+    const auto LColuna =
+        std::find_if(AColunas.begin(), AColunas.end(), [&](const host::TColunaGrade& C) { return C.Campo == ACampo; });
     if (LColuna == AColunas.end())
         throw host::TFalha("A grade não tem a coluna " + ACampo + ".");
     return *LColuna;
@@ -103,9 +103,9 @@ TColunasGrade ColunasDbtvMostraCtbOrcMensal() {
         LColunas.push_back(Oculta(Coluna("VAL" + std::to_string(I), "", "", Dinheiro)));
         LColunas.push_back(Oculta(Coluna("PERC" + std::to_string(I), "%", "", Percentual)));
     }
-    for (auto& LColuna : {Coluna("TOTAL", "Total", "", Dinheiro), Coluna("PERCTOT", "%", "", Percentual),
-                          Oculta(Coluna("CTATITULO", "")), Oculta(Coluna("TIPOLINHA", "")),
-                          Oculta(Coluna("IDPLANO", ""))})
+    for (auto& LColuna :
+         {Coluna("TOTAL", "Total", "", Dinheiro), Coluna("PERCTOT", "%", "", Percentual),
+          Oculta(Coluna("CTATITULO", "")), Oculta(Coluna("TIPOLINHA", "")), Oculta(Coluna("IDPLANO", ""))})
         LColunas.push_back(LColuna);
     return LColunas;
 }

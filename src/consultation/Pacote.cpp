@@ -9,9 +9,16 @@ namespace {
 
 constexpr std::array<std::pair<std::string_view, std::string_view>, 1> RegistroDeVersao{
     {{"MinVersionDatabase", "5.40"}}};
-constexpr std::array<std::string_view, 10> Unidades{
-    "Un04618Types",      "Un04618Const",         "Un04618Dm",         "Un04618FormSelecao", "Un04618FormAtualizarRealizado",
-    "Un04618DMRel",      "Un04618DMRelPeriodos", "Un04618DMRelMatricial", "Un04618DMRelRazaoTot", "Un04618Form"};
+constexpr std::array<std::string_view, 10> Unidades{"Un04618Types",
+                                                    "Un04618Const",
+                                                    "Un04618Dm",
+                                                    "Un04618FormSelecao",
+                                                    "Un04618FormAtualizarRealizado",
+                                                    "Un04618DMRel",
+                                                    "Un04618DMRelPeriodos",
+                                                    "Un04618DMRelMatricial",
+                                                    "Un04618DMRelRazaoTot",
+                                                    "Un04618Form"};
 constexpr host::TInformacoesPacote Informacoes{"Pct04618", "Consultas e relatórios Orçamento x Realizado",
                                                RegistroDeVersao, Unidades};
 

@@ -12,11 +12,11 @@ TForm04618::TForm04618()
     ConfigurarControles();
     ConfigurarGrades();
     Registrar({&DsMostraCtbOrcada, &DsMostraCtbOrcMensal});
-    Registrar({&ActAtualizarRealizado, &PnlTitulo, &PnlGrades, &DbgCtbOrcada, &DbgMostraCtbOrcMensal,
-               &GdlConsultarProj, &GdlMostraCtbOrcMensal, &PnlLegenda, &LblCorRecRealizMaiorProj,
-               &LblRecRealizMaiorProj, &LblCorRecRealizMenorProj, &LblRecRealizMenorProj, &LblCorDespRealizMaiorProj,
-               &LblDespRealizMaiorProj, &LblCorDespRealizMenorProj, &LblDespRealizMenorProj,
-               &PnlLegendaGradeOrcMensal, &LblLegendaGradeOrcMensal});
+    Registrar({&ActAtualizarRealizado, &PnlTitulo, &PnlGrades, &DbgCtbOrcada, &DbgMostraCtbOrcMensal, &GdlConsultarProj,
+               &GdlMostraCtbOrcMensal, &PnlLegenda, &LblCorRecRealizMaiorProj, &LblRecRealizMaiorProj,
+               &LblCorRecRealizMenorProj, &LblRecRealizMenorProj, &LblCorDespRealizMaiorProj, &LblDespRealizMaiorProj,
+               &LblCorDespRealizMenorProj, &LblDespRealizMenorProj, &PnlLegendaGradeOrcMensal,
+               &LblLegendaGradeOrcMensal});
 }
 
 TForm04618::~TForm04618() { FormDestroy(); }
@@ -76,8 +76,7 @@ void TForm04618::ExecutarSelecao(host::TControle* ASender) {
 // The query module decides, however the dialog was left.
 void TForm04618::MostrarResultado() {
     auto& LDm = GetDm04618();
-    DbgCtbOrcada.SetVisible(LDm.FDetalharSelecao == ModoAgrupandoPeriodos ||
-                            LDm.FDetalharSelecao == ModoPeriodoExato);
+    DbgCtbOrcada.SetVisible(LDm.FDetalharSelecao == ModoAgrupandoPeriodos || LDm.FDetalharSelecao == ModoPeriodoExato);
     DbgMostraCtbOrcMensal.SetVisible(LDm.FDetalharSelecao == ModoPeriodosEmColunas &&
                                      !LDm.CdsMostraCtbOrcMensal.IsEmpty());
     if (LDm.FInformacoesCtbOrcadaInf.LListaIDs.empty()) {

@@ -21,7 +21,7 @@ class TForm04618 final : public host::TFormZTTandorPadraoSelecao {
     // The entry into the module: makes the query module for the logged company, and sets up the grids. Nothing has been
     // asked of the user.
     void InitializeForm() override;
-    TDM04618& GetDm04618() const; // after InitializeForm
+    TDM04618& GetDm04618() const;        // after InitializeForm
     TForm04618Selecao& GetFormSelecao(); // built when first asked for
 
     // Asks for a selection, runs it and shows its result. From ActAtualizarRealizado nobody is asked: the selection is

@@ -37,8 +37,8 @@ void AoMudarAgrupamento(host::TGrade& AGrade, std::function<void()> AOuvinte) {
 void TForm04618::ConfigurarControles() {
     ActAtualizarRealizado.SetCaption("&Atualizar Realizado");
     PnlTitulo.SetCaption(Convite);
-    for (auto* LAmostra : {&LblCorRecRealizMaiorProj, &LblCorRecRealizMenorProj, &LblCorDespRealizMaiorProj,
-                           &LblCorDespRealizMenorProj})
+    for (auto* LAmostra :
+         {&LblCorRecRealizMaiorProj, &LblCorRecRealizMenorProj, &LblCorDespRealizMaiorProj, &LblCorDespRealizMenorProj})
         LAmostra->SetCaption(CaptionAmostra);
     LblRecRealizMaiorProj.SetCaption("Receita realizada > projetada");
     LblRecRealizMenorProj.SetCaption("Receita realizada < projetada");

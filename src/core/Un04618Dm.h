@@ -32,7 +32,7 @@ class TDM04618 : public host::TDmZTTandorPadrao {
     bool FDetalharValorLctoCCusto = false;
     bool FDetalharLinhaVlrOrcado = false;
     bool FDetalharLinhaVlrRealizado = false;
-    bool FAgruparValFiliais = false;      // establishments summed into one line
+    bool FAgruparValFiliais = false;       // establishments summed into one line
     bool FImprimirOrcamentariaBal = false; // over the chart of accounts; otherwise over a configurable statement
     bool FImprimirDetContasTotaliz = false;
     bool FImprimirDetFiliaisTotaliz = false;

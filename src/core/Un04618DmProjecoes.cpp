@@ -55,11 +55,10 @@ std::string TDM04618::ClausulaPeriodo() const {
 }
 
 TInformacoesCtbOrcadaInf TDM04618::BuscarListaInformacoesCtbOrcadaInf() {
-    const auto LTexto =
-        FEhConsolidadoHolding
-            ? Format(sql::ListaProjecoesHolding,
-                     {FIDsEmpresasDaHolding, std::int64_t{FCenario}, ClausulaPeriodo(), FIDsFiliaisDaHolding})
-            : Format(sql::ListaProjecoes, {FIDEmpresa, std::int64_t{FCenario}, ClausulaPeriodo()});
+    const auto LTexto = FEhConsolidadoHolding
+                            ? Format(sql::ListaProjecoesHolding, {FIDsEmpresasDaHolding, std::int64_t{FCenario},
+                                                                  ClausulaPeriodo(), FIDsFiliaisDaHolding})
+                            : Format(sql::ListaProjecoes, {FIDEmpresa, std::int64_t{FCenario}, ClausulaPeriodo()});
     const auto LConsulta =
         host::BuscarInstanciaZTUtilsDbManager().AbrirConsultaSQL(LTexto, "BuscarListaInformacoesCtbOrcadaInf");
     if (LConsulta->IsEmpty() && FDetalharSelecao != ModoRazaoTotalizadores) {
@@ -103,8 +102,8 @@ bool TDM04618::CalculoDaProjecaoHeDetalhadoPorFilial() {
         LConsulta.SQL =
             Format(sql::DetalheDaProjecao, {FIDEmpresa, std::int64_t{FCenario}, CondicaoPeriodoDoCalculo()});
         LConsulta.Open(); // a failure leaves the transaction to its holder, who rolls it back
-        LDetalhado = !LConsulta.IsEmpty() &&
-                     LConsulta.FieldByName("TPDETALHE").AsInt64OuZero() == DetalhadaPorEstabelecimento;
+        LDetalhado =
+            !LConsulta.IsEmpty() && LConsulta.FieldByName("TPDETALHE").AsInt64OuZero() == DetalhadaPorEstabelecimento;
     }
     try {
         LConexao.FinalizarTransacao(*LTransacao);

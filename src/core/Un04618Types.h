@@ -22,11 +22,11 @@ using TDetalharSelecao = std::uint8_t;
 
 // The projections that match a selection.
 struct TInformacoesCtbOrcadaInf {
-    std::string LListaIDs;              // keys of the headers, separated by ", ", ready for an IN; empty for none
-    host::TDataHora DataIBalancoRef;    // reference balance of the projection, blank unless exactly one matched
+    std::string LListaIDs;           // keys of the headers, separated by ", ", ready for an IN; empty for none
+    host::TDataHora DataIBalancoRef; // reference balance of the projection, blank unless exactly one matched
     host::TDataHora DataFBalancoRef;
-    std::int32_t QtdePeriodos = 0;      // number of matching headers
-    std::int32_t TpCCusto = 0;          // detail by cost centre of the last matching header, 0 where it is null
+    std::int32_t QtdePeriodos = 0; // number of matching headers
+    std::int32_t TpCCusto = 0;     // detail by cost centre of the last matching header, 0 where it is null
 };
 
 using TStringList = std::vector<std::string>;

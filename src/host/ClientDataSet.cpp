@@ -13,7 +13,9 @@ TSQLConnection& TZTSQLDataSet::SQLConnection() const {
     return *FConexao;
 }
 
-TSQLConnection& TZTClientDataSet::Conexao() const { return FProvider ? FProvider->DataSet().SQLConnection() : *FConexao; }
+TSQLConnection& TZTClientDataSet::Conexao() const {
+    return FProvider ? FProvider->DataSet().SQLConnection() : *FConexao;
+}
 
 std::string TZTClientDataSet::TextoEfetivo() const {
     const bool LProprio = !FProvider || (FProvider->PermiteCommandText && !CommandText.empty());
@@ -46,7 +48,8 @@ void TZTClientDataSet::Reordenar() {
         const auto LColuna = std::find_if(FColunas.begin(), FColunas.end(),
                                           [&](const TColuna& C) { return C.Descricao().Nome == LNome; });
         if (LColuna == FColunas.end())
-            throw TFalha("O índice de " + Nome() + " pede o campo " + std::string(LNome) + ", que a consulta não traz.");
+            throw TFalha("O índice de " + Nome() + " pede o campo " + std::string(LNome) +
+                         ", que a consulta não traz.");
         FCamposIndice.push_back(static_cast<std::size_t>(LColuna - FColunas.begin()));
         LInicio = LFim + 1;
     }
@@ -72,8 +75,8 @@ bool TZTClientDataSet::FindKey(std::span<const TValor> AValores) {
                 return LOrdem;
         return 0;
     };
-    const auto LAchado = std::partition_point(FOrdem.begin(), FOrdem.end(),
-                                              [&](std::size_t ALinha) { return LComparar(ALinha) < 0; });
+    const auto LAchado =
+        std::partition_point(FOrdem.begin(), FOrdem.end(), [&](std::size_t ALinha) { return LComparar(ALinha) < 0; });
     if (LAchado == FOrdem.end() || LComparar(*LAchado) != 0)
         return false;
     Posicionar(static_cast<std::size_t>(LAchado - FOrdem.begin()));

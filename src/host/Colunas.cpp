@@ -159,7 +159,7 @@ TValor TColuna::Converter(const TValor& AValor) const {
                 return AValor;
             break;
         }
-    } catch (const std::logic_error&) {   // stod
+    } catch (const std::logic_error&) {    // stod
     } catch (const std::overflow_error&) { // ComEscala
     }
     throw TFalha("O valor \"" + TextoDe(AValor) + "\" não serve para o campo " + FDescricao.Nome + ".");

@@ -85,9 +85,9 @@ std::string TDataHora::Texto() const {
 std::string TDataHora::TextoIso() const {
     std::string LTexto = Montar("%04d-%02d-%02d", Ano(), Mes(), Dia());
     if (const auto LHora = FDecimos - SemHora().FDecimos)
-        LTexto += Montar(" %02d:%02d:%02d.%04d", static_cast<int>(LHora / 36'000'000),
-                         static_cast<int>(LHora / 600'000 % 60), static_cast<int>(LHora / 10'000 % 60),
-                         static_cast<int>(LHora % 10'000));
+        LTexto +=
+            Montar(" %02d:%02d:%02d.%04d", static_cast<int>(LHora / 36'000'000), static_cast<int>(LHora / 600'000 % 60),
+                   static_cast<int>(LHora / 10'000 % 60), static_cast<int>(LHora % 10'000));
     return LTexto;
 }
 

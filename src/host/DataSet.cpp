@@ -30,8 +30,8 @@ std::optional<std::int64_t> TField::AsInt64() const {
     const TValor LValor = Valor();
     if (EhNulo(LValor))
         return std::nullopt;
-    auto LDecimal = std::get_if<TDecimal>(&LValor) ? std::optional(std::get<TDecimal>(LValor))
-                                                   : TDecimal::De(TextoDe(LValor));
+    auto LDecimal =
+        std::get_if<TDecimal>(&LValor) ? std::optional(std::get<TDecimal>(LValor)) : TDecimal::De(TextoDe(LValor));
     if (!LDecimal || !(LDecimal->ComEscala(0) == *LDecimal))
         throw TFalha("O valor \"" + TextoDe(LValor) + "\" do campo " + Nome() + " não é um número inteiro.");
     return LDecimal->ComEscala(0).Unidades;

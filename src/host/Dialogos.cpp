@@ -26,8 +26,7 @@ void TZTUtilsDialogs::Erro(const std::string& ATexto) const {
 }
 
 int TZTUtilsDialogs::Confirmacao(const std::string& ATexto, int ATipoBotao, const std::string& ATitulo) const {
-    return Servicos().Interacao->Mensagem(
-        {TNivelMensagem::Confirmacao, ATitulo, ATexto, BotoesDoTipo(ATipoBotao), 6});
+    return Servicos().Interacao->Mensagem({TNivelMensagem::Confirmacao, ATitulo, ATexto, BotoesDoTipo(ATipoBotao), 6});
 }
 
 int TZTUtilsDialogs::ConfirmacaoCustomizada(const std::string& ATexto, TNivelMensagem ANivel, int APadrao,

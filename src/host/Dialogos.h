@@ -12,8 +12,8 @@ class HOST_API TZTUtilsDialogs {
     // A question with the buttons of that type.
     int Confirmacao(const std::string& ATexto, int ATipoBotao, const std::string& ATitulo) const;
     // Buttons by their captions. Returns 6, 7 or 2 for the first, second or third.
-    int ConfirmacaoCustomizada(const std::string& ATexto, TNivelMensagem ANivel, int APadrao, const std::string& ATitulo,
-                               std::vector<std::string> ABotoes) const;
+    int ConfirmacaoCustomizada(const std::string& ATexto, TNivelMensagem ANivel, int APadrao,
+                               const std::string& ATitulo, std::vector<std::string> ABotoes) const;
 };
 
 const inline TZTUtilsDialogs GZTUtilsDialogs;
@@ -25,7 +25,7 @@ class HOST_API TFrameZTBarraProgressoItem {
   public:
     explicit TFrameZTBarraProgressoItem(int ANivel) : FNivel(ANivel) {}
     void SetTexto(const std::string& ATexto);
-    void SetValorMaximo(int AValor); // starts the level again from zero
+    void SetValorMaximo(int AValor);     // starts the level again from zero
     void AvancarProgresso(int APosicao); // 0: one step
     void IniciarSimulacaoProcesso();     // a bar without a known length
     void PararSimulacaoProcesso();

@@ -33,10 +33,10 @@ class HOST_API TFalhaBanco : public TFalha {
                 std::string AInstrucao, std::string ADetalhe);
 
     TTipoFalhaBanco Tipo() const { return FTipo; }
-    const std::string& Estado() const { return FEstado; }               // SQLSTATE, five characters
-    const std::vector<long>& Codigos() const { return FCodigos; }       // the engine's codes, outermost first
-    const std::string& Instrucao() const { return FInstrucao; }         // name of the statement, may be empty
-    const std::string& Detalhe() const { return FDetalhe; }             // the engine's own text
+    const std::string& Estado() const { return FEstado; }         // SQLSTATE, five characters
+    const std::vector<long>& Codigos() const { return FCodigos; } // the engine's codes, outermost first
+    const std::string& Instrucao() const { return FInstrucao; }   // name of the statement, may be empty
+    const std::string& Detalhe() const { return FDetalhe; }       // the engine's own text
     bool Tem(long ACodigo) const;
     // SQLSTATE, codes, statement and the engine's text in one paragraph.
     std::string Diagnostico() const;

@@ -18,9 +18,7 @@ template <class TLista, class TNomear>
 
 } // namespace
 
-void TForm::Registrar(std::initializer_list<TControle*> AControles) {
-    FControles.insert(FControles.end(), AControles);
-}
+void TForm::Registrar(std::initializer_list<TControle*> AControles) { FControles.insert(FControles.end(), AControles); }
 
 void TForm::Registrar(std::initializer_list<TDataSource*> AFontes) { FFontes.insert(FFontes.end(), AFontes); }
 
@@ -41,8 +39,7 @@ TDataSet& TForm::DataSet(std::string_view ANome) const {
     for (const auto* LFonte : FFontes)
         if (LFonte->DataSet && LFonte->DataSet->Nome() == ANome)
             return *LFonte->DataSet;
-    NaoExiste(FNome, ANome, FFontes,
-              [](const TDataSource& F) { return F.DataSet ? F.DataSet->Nome() : F.Nome(); });
+    NaoExiste(FNome, ANome, FFontes, [](const TDataSource& F) { return F.DataSet ? F.DataSet->Nome() : F.Nome(); });
 }
 
 void TForm::SairDe(TControle& AControle) {

@@ -37,8 +37,8 @@ void TGrade::SetColunas(std::vector<TColunaGrade> AColunas) {
 }
 
 const TColunaGrade& TGrade::Coluna(std::string_view ACampo) const {
-    const auto LColuna = std::find_if(FColunas.begin(), FColunas.end(),
-                                      [&](const TColunaGrade& C) { return C.Campo == ACampo; });
+    const auto LColuna =
+        std::find_if(FColunas.begin(), FColunas.end(), [&](const TColunaGrade& C) { return C.Campo == ACampo; });
     if (LColuna == FColunas.end())
         throw TFalha("A grade " + Nome() + " não tem a coluna " + std::string(ACampo) + ".");
     return *LColuna;

@@ -23,10 +23,10 @@ struct HOST_API TAparencia {
 struct HOST_API TColunaGrade {
     std::string Campo;
     std::string Titulo;
-    std::string Faixa;    // caption of the band above it, empty for none
+    std::string Faixa; // caption of the band above it, empty for none
     bool Visivel = true;
-    std::string Formato;  // of numbers (FormatoNumerico.h); empty: the field's own
-    int Grupo = -1;       // grouping level from 0, -1 for none
+    std::string Formato;        // of numbers (FormatoNumerico.h); empty: the field's own
+    int Grupo = -1;             // grouping level from 0, -1 for none
     bool Identificacao = false; // stays in view when the others scroll
 };
 

@@ -12,15 +12,15 @@ namespace host {
 
 // Rows taken out of another dataset: a copy that stands by itself.
 class HOST_API TDataSetEscolhido : public TDataSet {
-public:
+  public:
     using TDataSet::TDataSet;
     // Closes, and opens again on those rows of the columns, in that order.
     void Carregar(const TDataSet& AOrigem, std::vector<std::size_t> ALinhas);
 
-protected:
+  protected:
     std::unique_ptr<TCursor> AbrirCursor() override;
 
-private:
+  private:
     const TDataSet* FOrigem = nullptr;
     std::vector<std::size_t> FLinhas;
 };
@@ -50,7 +50,7 @@ struct HOST_API TDefinicaoLookup {
 // One search field: a code with its description, the record found, and the records marked in its search where several
 // may be chosen. Reads pass their failures on.
 class HOST_API TZTLookupEx : public TControle {
-public:
+  public:
     static constexpr const char* TextoVarios = "Vários registros selecionados.";
 
     TZTLookupEx(std::string ANome, TDefinicaoLookup ADefinicao);
@@ -83,6 +83,9 @@ public:
 
     // What the user does. All rows of the search, in its order; the caller shows them.
     std::unique_ptr<TZTClientDataSet> Pesquisar() const;
+    // Positions from 1 of the rows of a search with that text in any of its columns, without regard to case and
+    // accents.
+    std::vector<std::size_t> Filtrar(const TDataSet& APesquisa, std::string_view ATexto) const;
     // Types a code. Unknown: the message, no record, and BuscaNaoAchou.
     void Digitar(const std::string& ACodigo);
     // Picks a row of a search, by its position from 1.
@@ -90,7 +93,7 @@ public:
     // Marks rows of a search, by their positions from 1; throws std::logic_error where only one may be chosen.
     void Marcar(TDataSet& APesquisa, const std::vector<std::size_t>& ARecNos);
 
-private:
+  private:
     void Achar(const TDataSet& APesquisa, std::size_t ALinha);
     void MostrarTexto(std::string ACodigo, std::string ATexto);
 

@@ -22,7 +22,7 @@ class HOST_API TFrameZTTandorLookupCentroCusto : public TZTLookupEx {
 class HOST_API TLookupConta : public TZTLookupEx {
   public:
     explicit TLookupConta(std::string ANome);
-    std::function<std::int64_t()> IDEmpresaPlano;      // whose chart serves
+    std::function<std::int64_t()> IDEmpresaPlano;       // whose chart serves
     std::function<std::string()> CondicaoPesquisaConta; // further condition, may be absent
     // Classification of the one account found, empty without one.
     std::string GetClassifContab() const;

@@ -37,19 +37,11 @@ std::string PorPeriodo(const char* ASeparador, const char* AModelo) {
 }
 
 // A condition as a line of its own of the WHERE, or nothing.
-std::string Linha(const std::string& ACondicao) {
-    return ACondicao.empty() ? "" : "\n           " + ACondicao;
-}
+std::string Linha(const std::string& ACondicao) { return ACondicao.empty() ? "" : "\n           " + ACondicao; }
 
-bool Vertical(const TDM04618& ADm) {
-    return ADm.FDetalharPercentual == TDetalhePercentual::dpVertical;
-}
-bool SobreBase(const TDM04618& ADm) {
-    return ADm.FDetalharPercentual == TDetalhePercentual::dpRealizadoXBase;
-}
-const char* Diferenca(const TDM04618& ADm) {
-    return ADm.FCalcularPercentualDiferenca ? "-100" : "";
-}
+bool Vertical(const TDM04618& ADm) { return ADm.FDetalharPercentual == TDetalhePercentual::dpVertical; }
+bool SobreBase(const TDM04618& ADm) { return ADm.FDetalharPercentual == TDetalhePercentual::dpRealizadoXBase; }
+const char* Diferenca(const TDM04618& ADm) { return ADm.FCalcularPercentualDiferenca ? "-100" : ""; }
 
 std::string Varredura(const TDM04618& ADm, bool AImpPerComMov) {
     return Format(sql::VarreduraPeriodos, {

@@ -120,10 +120,10 @@ void TForm04618Selecao::AtribuirPropriedadesDm04618() {
     LDm.FIDsTotalizadores =
         BuscarIDsMultiselecao(LkpTotalizadorDemonstConfig, "CO01_DEMACTOT.IDDEMACTOT = ", "IDDEMACTOT");
     LDm.FIDsCentroCusto = BuscarIDsMultiselecao(
-        LkpCentroCusto, LRazao ? "CO01_CENTROCUSTO.IDCENTROCUSTO = " : "CO01_CTBORCADAVLR.IDCENTROCUSTO = ",
-        "IDCENTROCUSTO");
-    LDm.FIDsContas = BuscarIDsMultiselecao(
-        LkpContas, LRazao ? "CO01_PLANO.IDPLANO = " : "CO01_CTBORCADAVLR.IDPLANO = ", "IDPLANO");
+        LkpCentroCusto,
+        LRazao ? "CO01_CENTROCUSTO.IDCENTROCUSTO = " : "CO01_CTBORCADAVLR.IDCENTROCUSTO = ", "IDCENTROCUSTO");
+    LDm.FIDsContas =
+        BuscarIDsMultiselecao(LkpContas, LRazao ? "CO01_PLANO.IDPLANO = " : "CO01_CTBORCADAVLR.IDPLANO = ", "IDPLANO");
     AtribuirUsuariosPorAtribuicao();
     AtribuirHolding();
     LDm.FCenario = host::NumeroOuZero(CbCenario.GetValorSelecionado());
@@ -161,8 +161,7 @@ void TForm04618Selecao::AtribuirHolding() {
         LkpEmpresa.GetResultSetMultiSelecao().Active() && !LkpEmpresa.GetResultSetMultiSelecao().IsEmpty();
     if (!FDm04618.FEhConsolidadoHolding)
         return;
-    FDm04618.FIDsEmpresasDaHolding =
-        BuscarIDsMultiselecao(LkpEmpresa, "CO01_CTBORCADAINF.IDEMPRESA = ", "IDEMPRESA");
+    FDm04618.FIDsEmpresasDaHolding = BuscarIDsMultiselecao(LkpEmpresa, "CO01_CTBORCADAINF.IDEMPRESA = ", "IDEMPRESA");
     FDm04618.FIDsFiliaisDaHolding = BuscarIDsMultiselecao(LkpEmpresa, "CO01_CTBORCADAINF.IDFILIAL = ", "IDFILIAL");
 }
 
@@ -195,9 +194,9 @@ void TForm04618Selecao::BuscarInformacoesOrcamentaria() {
     LProgresso.FecharBarraProgresso();
 }
 
-void TForm04618Selecao::AtribuirDadosSelecao(std::int64_t AIDFilial, host::TDataHora ADataIni,
-                                             host::TDataHora ADataFim, std::int32_t AVisualizacao,
-                                             std::int32_t ADetalhar, std::int32_t ACenario) {
+void TForm04618Selecao::AtribuirDadosSelecao(std::int64_t AIDFilial, host::TDataHora ADataIni, host::TDataHora ADataFim,
+                                             std::int32_t AVisualizacao, std::int32_t ADetalhar,
+                                             std::int32_t ACenario) {
     if (AIDFilial > 0)
         LkpEmpresa.SetID(AIDFilial);
     DeDataIni.SetDate(ADataIni);

@@ -70,9 +70,8 @@ void TForm04618Selecao::HabilitarCamposReferentesADemonstConfig() {
     const bool LDemonstracao = Visualizacao() == 2;
     const auto LModo = Modo();
     const bool LEmColunas = LModo == ModoPeriodosEmColunas || LModo == ModoMatricial;
-    Habilitar(LDemonstracao,
-              {&LkpRelatorioDemonstConfig, &LkpTotalizadorDemonstConfig, &LblRelatorioDemonstConfig,
-               &LblTotalizadorDemonstConfig, &LblDetalharTotalizadores, &PnlDetalharTotalizadores});
+    Habilitar(LDemonstracao, {&LkpRelatorioDemonstConfig, &LkpTotalizadorDemonstConfig, &LblRelatorioDemonstConfig,
+                              &LblTotalizadorDemonstConfig, &LblDetalharTotalizadores, &PnlDetalharTotalizadores});
     const bool LPercentuais = LDemonstracao && LModo != ModoRazaoTotalizadores;
     Habilitar(LPercentuais, {&LblDetalharPercentualTots, &PnlDetalharPercentual, &ChkDetPercRealizadoXOrcado,
                              &ChkDetPercRealizadoXBase, &ChkDetPercAnaliseVertical});
@@ -97,9 +96,9 @@ void TForm04618Selecao::HabilitarCamposReferentesADemonstConfig() {
 
 void TForm04618Selecao::HabilitarCamposReferentesACalcularPercentual() {
     const bool LEmColunas = Modo() == ModoPeriodosEmColunas || Modo() == ModoMatricial;
-    Habilitar((ChkDetPercRealizadoXOrcado.Checked() || ChkDetPercRealizadoXBase.Checked()) && LEmColunas,
-              {&LblCalcularPercentual, &PnlCalcularPercentual, &ChkCalcularPercentualTotal,
-               &ChkCalcularPercentualDiferenca});
+    Habilitar(
+        (ChkDetPercRealizadoXOrcado.Checked() || ChkDetPercRealizadoXBase.Checked()) && LEmColunas,
+        {&LblCalcularPercentual, &PnlCalcularPercentual, &ChkCalcularPercentualTotal, &ChkCalcularPercentualDiferenca});
     ChkCalcularPercentualTotal.SetChecked(true);
 }
 
@@ -109,8 +108,8 @@ void TForm04618Selecao::HabilitarCamposReferentesASelecaoDeEstabelecimento() {
                                              Modo() == ModoMatricial);
     const bool LSelecionavel =
         Visualizacao() == 1 ||
-        (Visualizacao() == 2 && (Modo() == ModoPeriodosEmColunas ||
-                                 (Modo() == ModoMatricial && ChkDetalharTotalizadoresEstab.Checked())));
+        (Visualizacao() == 2 &&
+         (Modo() == ModoPeriodosEmColunas || (Modo() == ModoMatricial && ChkDetalharTotalizadoresEstab.Checked())));
     Habilitar(LDetalhado && LSelecionavel, {&LkpEstabelecimento, &LblEstabelecimento, &ChkAgruparValFiliais});
     if (!ChkAgruparValFiliais.Enabled())
         ChkAgruparValFiliais.SetChecked(false);
@@ -150,16 +149,15 @@ void TForm04618Selecao::HabilitarDetalhamentosCCustoOrcamento() {
 bool TForm04618Selecao::TotalizadoresSoDeContas() const {
     const auto LTem = [&](const char* AColuna) {
         return !host::BuscarInstanciaZTUtilsDbManager()
-                    .AbrirConsultaSQL(host::Format(sql::TotalizadorComVinculo,
-                                                   {LkpRelatorioDemonstConfig.GetID(), AColuna}),
-                                      "TotalizadoresSoDeContas")
+                    .AbrirConsultaSQL(
+                        host::Format(sql::TotalizadorComVinculo, {LkpRelatorioDemonstConfig.GetID(), AColuna}),
+                        "TotalizadoresSoDeContas")
                     ->IsEmpty();
     };
     return LTem("IDPLANO") && !LTem("IDCENTROCUSTO");
 }
 
-void TForm04618Selecao::ChkDetPercClick(host::TZTCheckBox& AMarcado,
-                                        std::initializer_list<host::TZTCheckBox*> AOutros,
+void TForm04618Selecao::ChkDetPercClick(host::TZTCheckBox& AMarcado, std::initializer_list<host::TZTCheckBox*> AOutros,
                                         std::initializer_list<host::TZTCheckBox*> ALinhas,
                                         TDetalhePercentual ADetalhe) {
     if (AMarcado.Checked()) {

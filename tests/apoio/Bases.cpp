@@ -25,7 +25,9 @@ std::string doServidor(const std::string& nome) {
 
 } // namespace
 
-std::filesystem::path arquivoBase(Base base) { return Pasta / "bases" / (base == Base::Demo ? "demo.fdb" : "vazia.fdb"); }
+std::filesystem::path arquivoBase(Base base) {
+    return Pasta / "bases" / (base == Base::Demo ? "demo.fdb" : "vazia.fdb");
+}
 
 bool peloServidor() {
     const char* alvo = std::getenv("ORCREAL_TESTE_ALVO");

@@ -155,8 +155,8 @@ TEST_F(Consulta, VariacaoConheceReceitaEDespesa) {
     linha(101, "-200", "-250");
     linha(102, "100", "80");
     linha(103, "100", "NULL");
-    Valor("IDCTBORCADAINF, IDPLANO, VLRORCADO", "2, 102, 60"); // the months of a line add up
-    Valor("IDCTBORCADAINF, IDPLANO, VLRBASE", "1, 100, 0");    // three zeros: no line
+    Valor("IDCTBORCADAINF, IDPLANO, VLRORCADO", "2, 102, 60");                 // the months of a line add up
+    Valor("IDCTBORCADAINF, IDPLANO, VLRBASE", "1, 100, 0");                    // three zeros: no line
     Valor("IDCTBORCADAINF, IDPLANO, IDDEMACTOT, VLRORCADO", "1, 101, 9, 999"); // of a totalizer: never
     Buscar(1, "01/01/2024", "30/06/2024");
     EXPECT_EQ((Lista{"3.1|Vendas|Receita|-200.000000|-250.000000|50.000000|125.000000|25.000000",
@@ -331,10 +331,10 @@ TEST(Instrucoes, CadaFormaPreparaEDevolveAsColunasCombinadas) {
     const host::TInstalacaoServicos instalados(servicos);
     TDM04618 d;
     d.FInformacoesCtbOrcadaInf.LListaIDs = " 1, 2 ";
-    const Lista esperadas{"FILIAL",    "CTATITULO",    "RECDESP",      "CLASSIF",    "IDPLANO",    "CLASSIFCONTAB",
-                          "CONTA",     "NOMECONTA",    "CODIGO",       "DESCCCUSTO", "CCUSTO",     "TPBASEPROJ",
-                          "TPPROJECAO", "TPATUALIZBASE", "INDICEATBASE", "PERCORCADO", "VLRBASE",  "VLRORCADO",
-                          "VLRREALIZADO", "DELTAVLR",   "DELTAPERC",    "DELTAVARIACAO"};
+    const Lista esperadas{"FILIAL",       "CTATITULO",     "RECDESP",      "CLASSIF",      "IDPLANO", "CLASSIFCONTAB",
+                          "CONTA",        "NOMECONTA",     "CODIGO",       "DESCCCUSTO",   "CCUSTO",  "TPBASEPROJ",
+                          "TPPROJECAO",   "TPATUALIZBASE", "INDICEATBASE", "PERCORCADO",   "VLRBASE", "VLRORCADO",
+                          "VLRREALIZADO", "DELTAVLR",      "DELTAPERC",    "DELTAVARIACAO"};
     for (unsigned forma = 0; forma < 64; ++forma) {
         d.FDetalharSelecao = (forma & 1U) != 0 ? 2 : 1;
         d.FAgruparValFiliais = (forma & 2U) != 0;

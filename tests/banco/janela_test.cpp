@@ -138,15 +138,15 @@ TEST_F(Janela, BalancoFicaEmVistaEnquantoODialogoSoEhAbertoEDeixado) {
     Selecionar([](FormDriver&) {});
     EXPECT_EQ(Balanco, EmVista());
     EXPECT_EQ(Janeiro, Titulo());
-    EXPECT_EQ((Lista{"Resultado", "Vendas", "Energia"}),
-              apoio::LinhasDe(Dados("CdsMostraCtbOrcada"), {"NOMECONTA"}));
+    EXPECT_EQ((Lista{"Resultado", "Vendas", "Energia"}), apoio::LinhasDe(Dados("CdsMostraCtbOrcada"), {"NOMECONTA"}));
     EXPECT_TRUE(Aparencia(0, "VLRORCADO").Negrito) << "a title";
     EXPECT_FALSE(Aparencia(1, "VLRORCADO").Negrito);
     EXPECT_EQ(pct04618::cores::Vermelho, Aparencia(1, "VLRORCADO").Fonte);
     EXPECT_EQ(pct04618::cores::Roxo, Aparencia(2, "NOMECONTA").Fonte);
     EXPECT_FALSE(Aparencia(1, "CONTA").Vazio);
     const auto& grade = Grade("DbgCtbOrcada");
-    EXPECT_EQ("-10,0000", grade.Celula(1, grade.Coluna("DELTAVARIACAO")).Texto()) << "the grid's format, not the field's";
+    EXPECT_EQ("-10,0000", grade.Celula(1, grade.Coluna("DELTAVARIACAO")).Texto())
+        << "the grid's format, not the field's";
 }
 
 TEST_F(Janela, ModoDeixadoNoDialogoDecideSemSelecao) {
@@ -245,8 +245,7 @@ TEST_F(Janela, DepoisDeAtualizarORealizadoNinguemEhPerguntado) {
     janela->ActSelecionarExecute(atualizar);
     EXPECT_EQ(Balanco, EmVista());
     EXPECT_EQ("Visualizando projeção orçamentária de 01/04/2024 a 30/04/2024", Titulo());
-    EXPECT_EQ(Lista{"Energia|7.000000"},
-              apoio::LinhasDe(Dados("CdsMostraCtbOrcada"), {"NOMECONTA", "VLRREALIZADO"}));
+    EXPECT_EQ(Lista{"Energia|7.000000"}, apoio::LinhasDe(Dados("CdsMostraCtbOrcada"), {"NOMECONTA", "VLRREALIZADO"}));
     EXPECT_EQ(0, d.FIDFilial) << "the establishment is that of the selection dialog";
     EXPECT_TRUE(d.FImprimirOrcamentariaBal);
 

@@ -128,7 +128,8 @@ TEST_F(Selecao, CadaModoHabilitaOQueTemSentido) {
     };
     // clang-format on
     std::map<std::string, std::string> visto;
-    for (const auto& [visualizar, modo] : {std::pair{"1", "1"}, {"1", "2"}, {"1", "3"}, {"2", "3"}, {"2", "4"}, {"2", "5"}}) {
+    for (const auto& [visualizar, modo] :
+         {std::pair{"1", "1"}, {"1", "2"}, {"1", "3"}, {"2", "3"}, {"2", "4"}, {"2", "5"}}) {
         const bool exato = std::string(modo) == "2";
         Periodo("01/01/2024", exato ? "31/01/2024" : "30/06/2024", visualizar, modo);
         for (const auto& [controle, esperado] : tabela)
@@ -374,6 +375,23 @@ TEST_F(Selecao, UsuariosSaoSeparadosPelaAtribuicao) {
     OK();
     EXPECT_EQ(1U, Contar(dm->FIDsUsuariosAtribGestor, "="));
     EXPECT_EQ("", dm->FIDsUsuariosAtribSupervisor);
+}
+
+TEST_F(Selecao, BuscaRapidaOlhaAsColunasMostradas) {
+    auto& contas = Lookup("LkpContas");
+    const auto pesquisa = contas.Pesquisar();
+    const auto achadas = contas.Filtrar(*pesquisa, "energia ELETRICA");
+    ASSERT_FALSE(achadas.empty());
+    for (const auto posicao : achadas) {
+        pesquisa->IrPara(posicao);
+        EXPECT_NE(std::string::npos, pesquisa->FieldByName("NOME").AsString().find("nergia elétrica"));
+    }
+    EXPECT_EQ(1U, contas.Filtrar(*pesquisa, "3.1.01.001").size());
+    EXPECT_TRUE(contas.Filtrar(*pesquisa, "nada disso").empty());
+    EXPECT_EQ(pesquisa->RecordCount(), contas.Filtrar(*pesquisa, " ").size());
+    Periodo("01/01/2024", "30/06/2024", "1", "1");
+    contas.Marcar(*pesquisa, contas.Filtrar(*pesquisa, "3.1.01.00"));
+    EXPECT_EQ("Vários registros selecionados.", contas.Texto());
 }
 
 TEST_F(Selecao, TeclasEPesquisaDePeriodos) {

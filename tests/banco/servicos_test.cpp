@@ -42,7 +42,8 @@ TFalhaBanco Falha(Acao&& acao) {
 }
 
 host::TInstrucao Incluir(int id) {
-    return {"inclusão", "INSERT INTO US09_USUARIO (IDUSUARIO, CODIGO, NOME) VALUES (" + std::to_string(id) + ", 1, 'A')"};
+    return {"inclusão",
+            "INSERT INTO US09_USUARIO (IDUSUARIO, CODIGO, NOME) VALUES (" + std::to_string(id) + ", 1, 'A')"};
 }
 
 const char* const Usuarios = "SELECT COUNT(*) FROM US09_USUARIO";
@@ -91,9 +92,19 @@ TEST(Servicos, TodosOsTiposChegamExatos) {
         CAST('AÇÃO é ÿ' AS VARCHAR(20)) H, CAST('ab' AS CHAR(5)) I, CAST(NULL AS NUMERIC(15,2)) J, '' K,
         CAST('longo texto' AS BLOB SUB_TYPE TEXT) L, 1 = 1 M FROM RDB$DATABASE)";
     q.Open();
-    const std::vector<std::string> esperado{"-32768", "2147483647", "-9223372036854775808", "9223372036854.775807",
-                                            "0.1", "2024-02-29", "1999-12-31 23:59:59.9999", "AÇÃO é ÿ", "ab", "", "",
-                                            "longo texto", "1"};
+    const std::vector<std::string> esperado{"-32768",
+                                            "2147483647",
+                                            "-9223372036854775808",
+                                            "9223372036854.775807",
+                                            "0.1",
+                                            "2024-02-29",
+                                            "1999-12-31 23:59:59.9999",
+                                            "AÇÃO é ÿ",
+                                            "ab",
+                                            "",
+                                            "",
+                                            "longo texto",
+                                            "1"};
     ASSERT_EQ(esperado.size(), q.Fields().size());
     for (std::size_t i = 0; i < esperado.size(); ++i)
         EXPECT_EQ(esperado[i], q.Fields()[i].AsString()) << q.Fields()[i].Nome();
@@ -166,7 +177,10 @@ TEST(Servicos, TransacoesSaoIndependentesEAQueNaoConfirmouNaoDeixaNada) {
             EXPECT_FALSE(dentro->Aberta());
         }
         EXPECT_EQ("2", TextoDe(Valor(*conexao, Usuarios)));
-        { const auto largada = conexao->IniciarTransacao(); incluir(3); } // let go of: rolled back
+        {
+            const auto largada = conexao->IniciarTransacao();
+            incluir(3);
+        } // let go of: rolled back
         conexao->CancelarTransacao(*fora);
         conexao->CancelarTransacao(*fora);
     }
@@ -330,8 +344,9 @@ TEST(Servicos, FalhasComunsDizemOQueFazer) {
     const Copia copia(Base::Vazia);
     const auto conexao = copia.conectar();
     const auto tabela = Falha([&] { Valor(*conexao, "SELECT A FROM NADA"); });
-    EXPECT_STREQ("A tabela NADA não existe neste banco de dados. Verifique se o banco é o da suíte e se está atualizado.",
-                 tabela.what());
+    EXPECT_STREQ(
+        "A tabela NADA não existe neste banco de dados. Verifique se o banco é o da suíte e se está atualizado.",
+        tabela.what());
     EXPECT_EQ("42S02", tabela.Estado());
     EXPECT_EQ("teste", tabela.Instrucao());
     EXPECT_TRUE(tabela.Tem(335544580));
@@ -374,7 +389,8 @@ TEST(Servicos, ConexaoPerdidaEhContadaComoTal) {
     const auto cursor = conexao->AbrirCursor({"linhas", "SELECT * FROM CO01_DIARIO"});
     host::TColunas colunas(cursor->Colunas().begin(), cursor->Colunas().end());
     ASSERT_EQ(10U, cursor->Ler(colunas, 10));
-    copia.executar("DELETE FROM MON$ATTACHMENTS WHERE MON$ATTACHMENT_ID <> CURRENT_CONNECTION AND MON$SYSTEM_FLAG = 0;");
+    copia.executar(
+        "DELETE FROM MON$ATTACHMENTS WHERE MON$ATTACHMENT_ID <> CURRENT_CONNECTION AND MON$SYSTEM_FLAG = 0;");
     const auto falha = Falha([&] {
         while (cursor->Ler(colunas, 1000) != 0)
             continue;

@@ -26,7 +26,7 @@ class Conexao : public host::TSQLConnection {
 
   private:
     class Cursor : public host::TCursor {
-    public:
+      public:
         explicit Cursor(const Conexao& conexao) : conexao_(conexao) {}
         const std::vector<host::TDescricaoColuna>& Colunas() const override { return conexao_.colunas; }
         std::size_t Ler(host::TColunas& destino, std::size_t) override {
@@ -38,7 +38,7 @@ class Conexao : public host::TSQLConnection {
             return 1;
         }
 
-    private:
+      private:
         const Conexao& conexao_;
         std::size_t lido_ = 0;
     };

@@ -74,14 +74,22 @@ TEST(GradeBalanco, CorDizSeReceitaEDespesaFicaramMelhorOuPior) {
         const char* variacao;
         Cor cor;
     } casos[] = {
-        {"Receita", "-0.010000", cores::Vermelho}, {"Receita", "0.000000", cores::Vermelho},
-        {"Receita", "0.000040", cores::Vermelho},  {"Receita", "0.000100", cores::Azul},
-        {"Receita", "", cores::Vermelho},          {"Receita", "-0.000040", cores::Vermelho},
-        {"Despesa", "-8.000000", cores::Roxo},     {"Despesa", "0.000000", Nenhuma},
-        {"Despesa", "0.000040", Nenhuma},          {"Despesa", "0.000050", Nenhuma},
-        {"Despesa", "0.000060", cores::VerdeAzulado}, {"Despesa", "-0.000040", Nenhuma},
-        {"Despesa", "-0.000100", cores::Roxo},     {"Despesa", "nada", Nenhuma},
-        {"", "5.000000", Nenhuma},                 {"receita", "-5.000000", Nenhuma},
+        {"Receita", "-0.010000", cores::Vermelho},
+        {"Receita", "0.000000", cores::Vermelho},
+        {"Receita", "0.000040", cores::Vermelho},
+        {"Receita", "0.000100", cores::Azul},
+        {"Receita", "", cores::Vermelho},
+        {"Receita", "-0.000040", cores::Vermelho},
+        {"Despesa", "-8.000000", cores::Roxo},
+        {"Despesa", "0.000000", Nenhuma},
+        {"Despesa", "0.000040", Nenhuma},
+        {"Despesa", "0.000050", Nenhuma},
+        {"Despesa", "0.000060", cores::VerdeAzulado},
+        {"Despesa", "-0.000040", Nenhuma},
+        {"Despesa", "-0.000100", cores::Roxo},
+        {"Despesa", "nada", Nenhuma},
+        {"", "5.000000", Nenhuma},
+        {"receita", "-5.000000", Nenhuma},
     };
     for (const auto& caso : casos)
         for (const char* coluna : {"NOMECONTA", "VLRBASE", "FILIAL"}) {
@@ -184,12 +192,26 @@ TEST(EstruturaGrades, ColunasNaOrdemComOQueSeVe) {
     Lista titulos;
     for (const auto& coluna : balanco)
         titulos.push_back(coluna.Faixa + "/" + coluna.Titulo + "/" + coluna.Formato);
-    EXPECT_EQ((Lista{"/Classificação/", "/Conta/Tot./", "/Sub/", "/C.Custo/", "/Desc.Custo/", "/Filial/",
-                     "/Nome da Conta/Totalizador/", "Valor Base/TP Atualiz./", "Valor Base/% Atualiz./",
-                     "Valor Base/Valor/,0.00", "Valor Orçado/Proj./", "Valor Orçado/Base Proj./",
-                     "Valor Orçado/%/,0.0000", "Valor Orçado/Valor/,0.00", "Valor Realizado/Valor Realizado/,0.00",
-                     "Valor Realizado/Variação/,0.00", "Valor Realizado/% Realizado/,0.0000",
-                     "Valor Realizado/% Variação/,0.0000", "Valor Realizado/Tipo Conta/", "Valor Realizado//"}),
+    EXPECT_EQ((Lista{"/Classificação/",
+                     "/Conta/Tot./",
+                     "/Sub/",
+                     "/C.Custo/",
+                     "/Desc.Custo/",
+                     "/Filial/",
+                     "/Nome da Conta/Totalizador/",
+                     "Valor Base/TP Atualiz./",
+                     "Valor Base/% Atualiz./",
+                     "Valor Base/Valor/,0.00",
+                     "Valor Orçado/Proj./",
+                     "Valor Orçado/Base Proj./",
+                     "Valor Orçado/%/,0.0000",
+                     "Valor Orçado/Valor/,0.00",
+                     "Valor Realizado/Valor Realizado/,0.00",
+                     "Valor Realizado/Variação/,0.00",
+                     "Valor Realizado/% Realizado/,0.0000",
+                     "Valor Realizado/% Variação/,0.0000",
+                     "Valor Realizado/Tipo Conta/",
+                     "Valor Realizado//"}),
               titulos);
     const auto periodos = pct04618::ColunasDbtvMostraCtbOrcMensal();
     std::string esperada = "CLASSIFCONTAB CONTA SUBCONTA CCUSTO FILIAL@0 NOMECONTA ANO";

@@ -42,8 +42,8 @@ Statement BulkInsert::prepare(std::size_t rows) const {
         std::string values;
         for (std::size_t i = 0; i < columns_.size(); ++i) {
             const auto name = "P" + std::to_string(row * columns_.size() + i);
-            parameters += (parameters.empty() ? "" : ", ") + name + " TYPE OF COLUMN " + table_ + "." + columns_[i] +
-                          " = ?";
+            parameters +=
+                (parameters.empty() ? "" : ", ") + name + " TYPE OF COLUMN " + table_ + "." + columns_[i] + " = ?";
             values += (values.empty() ? ":" : ", :") + name;
         }
         inserts += "INSERT INTO " + table_ + " (" + list + ") VALUES (" + values + ");\n";

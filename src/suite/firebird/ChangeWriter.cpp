@@ -71,8 +71,7 @@ class Writer {
                 parameters.push_back(i);
                 condition += (condition.empty() ? "" : " AND ") + name(i) + " IS NOT DISTINCT FROM ?";
             }
-        const auto affected =
-            run("UPDATE " + table_ + " SET " + assignments + " WHERE " + condition, parameters, row);
+        const auto affected = run("UPDATE " + table_ + " SET " + assignments + " WHERE " + condition, parameters, row);
         if (affected != 1)
             throw host::TFalha(affected == 0
                                    ? "Um registro de " + table_ + " foi excluído por outro usuário; nada foi gravado."

@@ -90,7 +90,8 @@ constexpr Sentence Sentences[] = {
     {isc_shutdown, TTipoFalhaBanco::Conexao,
      "O banco de dados está fechado para manutenção. Tente novamente mais tarde."},
     {isc_network_error, TTipoFalhaBanco::Conexao,
-     "Não foi possível chegar ao servidor do banco de dados. Verifique o endereço, a porta e se o servidor está no ar."},
+     "Não foi possível chegar ao servidor do banco de dados. Verifique o endereço, a porta e se o servidor está no "
+     "ar."},
     {isc_dsql_relation_err, TTipoFalhaBanco::Comando,
      "A tabela %s não existe neste banco de dados. Verifique se o banco é o da suíte e se está atualizado."},
     {isc_dsql_field_err, TTipoFalhaBanco::Comando,
@@ -106,7 +107,8 @@ constexpr Sentence Sentences[] = {
     {isc_transliteration_failed, TTipoFalhaBanco::Comando,
      "Há um caractere que o banco de dados não aceita. Troque-o e tente novamente."},
     {isc_io_error, TTipoFalhaBanco::Conexao,
-     "Não foi possível ler ou gravar o arquivo do banco de dados. Verifique o caminho, as permissões e o espaço em disco."},
+     "Não foi possível ler ou gravar o arquivo do banco de dados. Verifique o caminho, as permissões e o espaço em "
+     "disco."},
 };
 
 const Entry* find(const std::vector<Entry>& entries, long code) {
@@ -143,7 +145,8 @@ host::TFalhaBanco toFailure(const std::intptr_t* status, const std::string& stat
     for (const auto& sentence : Sentences)
         if (const Entry* entry = find(entries, sentence.code))
             return {sentence.kind, fill(sentence.text, subject(entries, *entry)), state, codes, statement, detail};
-    return {TTipoFalhaBanco::Comando, "O banco de dados recusou a operação: " + detail, state, codes, statement, detail};
+    return {
+        TTipoFalhaBanco::Comando, "O banco de dados recusou a operação: " + detail, state, codes, statement, detail};
 }
 
 } // namespace suite::firebird

@@ -115,7 +115,8 @@ std::vector<unsigned char> inputMessage(Firebird::IMessageMetadata* metadata, st
             continue;
         const Slot slot{metadata->getType(status.get(), i), metadata->getLength(status.get(), i),
                         -metadata->getScale(status.get(), i),
-                        labels.empty() ? statement + ", parâmetro " + std::to_string(i + 1) : labels[i % labels.size()]};
+                        labels.empty() ? statement + ", parâmetro " + std::to_string(i + 1)
+                                       : labels[i % labels.size()]};
         storeValue(message.data() + metadata->getOffset(status.get(), i), slot, value);
     }
     status.check(statement);

@@ -53,8 +53,7 @@ Statement::Statement(Transaction& transaction, std::string_view sql, std::string
             status, transaction.handle(), static_cast<unsigned>(text.size()), text.data(), Dialect,
             Firebird::IStatement::PREPARE_PREFETCH_METADATA | Firebird::IStatement::PREPARE_PREFETCH_AFFECTED_RECORDS);
     }));
-    shared_->input.reset(
-        call(shared_->name, [&](auto* status) { return shared_->handle->getInputMetadata(status); }));
+    shared_->input.reset(call(shared_->name, [&](auto* status) { return shared_->handle->getInputMetadata(status); }));
     shared_->output.reset(
         call(shared_->name, [&](auto* status) { return shared_->handle->getOutputMetadata(status); }));
 }

@@ -12,7 +12,7 @@ class Target {
     explicit Target(std::string text);
 
     bool embedded() const { return embedded_; }
-    const std::string& text() const { return text_; }  // as given; a file's path is absolute
+    const std::string& text() const { return text_; }    // as given; a file's path is absolute
     std::filesystem::path file() const { return text_; } // of an embedded target
 
   private:

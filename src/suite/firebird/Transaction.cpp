@@ -12,9 +12,14 @@ namespace {
 
 constexpr std::array<unsigned char, 5> ReadOnlyBlock{isc_tpb_version3, isc_tpb_read, isc_tpb_read_committed,
                                                      isc_tpb_rec_version, isc_tpb_nowait};
-constexpr std::array<unsigned char, 8> ReadWriteBlock{isc_tpb_version3,    isc_tpb_write, isc_tpb_read_committed,
-                                                      isc_tpb_rec_version, isc_tpb_wait,  isc_tpb_lock_timeout,
-                                                      1,                   static_cast<unsigned char>(LockTimeout.count())};
+constexpr std::array<unsigned char, 8> ReadWriteBlock{isc_tpb_version3,
+                                                      isc_tpb_write,
+                                                      isc_tpb_read_committed,
+                                                      isc_tpb_rec_version,
+                                                      isc_tpb_wait,
+                                                      isc_tpb_lock_timeout,
+                                                      1,
+                                                      static_cast<unsigned char>(LockTimeout.count())};
 
 } // namespace
 
@@ -22,9 +27,8 @@ Transaction::Transaction(Attachment& attachment, TransactionMode mode) : attachm
     const bool readOnly = mode == TransactionMode::ReadOnly;
     const auto* block = readOnly ? ReadOnlyBlock.data() : ReadWriteBlock.data();
     const auto length = static_cast<unsigned>(readOnly ? ReadOnlyBlock.size() : ReadWriteBlock.size());
-    handle_.reset(call("início da transação", [&](auto* status) {
-        return attachment.handle()->startTransaction(status, length, block);
-    }));
+    handle_.reset(call("início da transação",
+                       [&](auto* status) { return attachment.handle()->startTransaction(status, length, block); }));
 }
 
 Transaction::~Transaction() { rollback(); }

@@ -87,7 +87,8 @@ class Filler {
         for (const auto& wanted : split(options_.companies)) {
             const auto before = keys.size();
             for (search->First(); !search->Eof(); search->Next())
-                if (search->FieldByName("EMPRESA").AsString() + "/" + search->FieldByName("FILIAL").AsString() == wanted)
+                if (search->FieldByName("EMPRESA").AsString() + "/" + search->FieldByName("FILIAL").AsString() ==
+                    wanted)
                     keys += (keys.empty() ? "#" : ",#") + search->FieldByName("IDFILIAL").AsString();
             if (keys.size() == before)
                 throw host::TFalha("A holding não tem o estabelecimento \"" + wanted +
@@ -105,10 +106,10 @@ class Filler {
         if (options_.details.empty())
             return;
         for (const auto& detail : split(options_.details)) {
-            const char* control = detail == "contas"              ? "ChkDetalharTotalizadoresContas"
-                                  : detail == "centros"           ? "ChkDetalharTotalizadoresCCusto"
+            const char* control = detail == "contas"             ? "ChkDetalharTotalizadoresContas"
+                                  : detail == "centros"          ? "ChkDetalharTotalizadoresCCusto"
                                   : detail == "estabelecimentos" ? "ChkDetalharTotalizadoresEstab"
-                                                                  : nullptr;
+                                                                 : nullptr;
             if (!control)
                 throw host::TFalha("--detalhar aceita estabelecimentos, centros e contas, e não \"" + detail + "\".");
             tick("--detalhar", control, "este modo não tem esse detalhe");
@@ -145,8 +146,8 @@ class Filler {
             if (line != "B" && line != "O" && line != "R")
                 throw host::TFalha("--linhas aceita B, O e R, separadas por vírgula, e não \"" + line + "\".");
         const auto wanted = "," + options_.lines + ",";
-        for (const auto& [letter, control] : {std::pair{"B", "ChkLinhaVlrBase"}, {"O", "ChkLinhaVlrOrcado"},
-                                              {"R", "ChkLinhaVlrRealizado"}}) {
+        for (const auto& [letter, control] :
+             {std::pair{"B", "ChkLinhaVlrBase"}, {"O", "ChkLinhaVlrOrcado"}, {"R", "ChkLinhaVlrRealizado"}}) {
             require("--linhas", control, "ela pede o modo 3");
             const bool on = wanted.find(std::string(",") + letter + ",") != std::string::npos;
             driver_.define(control, on ? "1" : "0");

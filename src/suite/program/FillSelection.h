@@ -6,8 +6,9 @@
 
 namespace suite::program {
 
-// Fills the selection dialog step by step, as a user does who tabs through it, and confirms. Stops where a rule refuses,
-// with the dialog still open. An option whose control the rules leave disabled is a host::TFalha that says why.
+// Fills the selection dialog step by step, as a user does who tabs through it, and confirms. Stops where a rule
+// refuses, with the dialog still open. An option whose control the rules leave disabled is a host::TFalha that says
+// why.
 void fillSelection(host::TForm& dialog, const ConsultOptions& options, const script::Headless& interaction);
 
 } // namespace suite::program

@@ -1,6 +1,7 @@
 #include "suite/program/LayoutStore.h"
 
 #include "host/Falhas.h"
+#include "suite/script/WholeFile.h"
 
 #include <algorithm>
 #include <charconv>
@@ -105,20 +106,6 @@ void moveAside(const path& file) {
     }
 }
 
-void writeWhole(const path& file, const std::string& text) {
-    path partial = file;
-    partial += ".parcial";
-    std::ofstream out(partial, std::ios::binary);
-    out << text;
-    out.close();
-    if (!out) {
-        std::error_code ignored;
-        std::filesystem::remove(partial, ignored);
-        throw std::system_error(std::make_error_code(std::errc::io_error));
-    }
-    std::filesystem::rename(partial, file);
-}
-
 } // namespace
 
 path LayoutStore::folderOf(const host::TDonoLeiautes& owner) const {
@@ -168,7 +155,12 @@ void LayoutStore::Gravar(const host::TDonoLeiautes& owner, const std::string& na
         host::TLeiaute former;
         if (std::filesystem::exists(file) && read(file, former) != Finding::Whole)
             moveAside(file);
-        writeWhole(file, textOf(layout));
+        script::writeWhole(file, [&](const path& partial) {
+            std::ofstream out(partial, std::ios::binary);
+            out.exceptions(std::ios::failbit | std::ios::badbit);
+            out << textOf(layout);
+            out.close();
+        });
     } catch (const std::system_error&) {
         throw host::TFalha("Não foi possível gravar o leiaute em " + file.string() +
                            ". Verifique as permissões e o espaço em disco.");

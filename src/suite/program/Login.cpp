@@ -27,9 +27,9 @@ std::int64_t find(const std::string& table, const std::string& key, const std::s
     std::string conditions = where;
     if (wanted)
         conditions += (where.empty() ? " WHERE " : " AND ") + table + "." + code + " = " + std::to_string(*wanted);
-    const auto rows = query("SELECT FIRST 1 " + table + "." + key + " FROM " + table + conditions + " ORDER BY " +
-                                table + "." + code,
-                            what);
+    const auto rows =
+        query("SELECT FIRST 1 " + table + "." + key + " FROM " + table + conditions + " ORDER BY " + table + "." + code,
+              what);
     if (!rows->IsEmpty())
         return rows->GetInt64FieldValue(key);
     if (wanted)
@@ -49,9 +49,8 @@ Login::Login(const LoginRequest& request) : logFolder_(request.logFolder) {
     if (company == 0)
         throw host::TFalha("O banco de dados não tem nenhuma empresa cadastrada.");
     company_ = BuscarDadosEmpresa(company);
-    establishment_ = find("SC00_FILIAL", "IDFILIAL", "FILIAL",
-                          Format(" WHERE SC00_FILIAL.IDEMPRESA = %d", {company}), request.establishment,
-                          "estabelecimento");
+    establishment_ = find("SC00_FILIAL", "IDFILIAL", "FILIAL", Format(" WHERE SC00_FILIAL.IDEMPRESA = %d", {company}),
+                          request.establishment, "estabelecimento");
     user_ = find("US09_USUARIO", "IDUSUARIO", "CODIGO", "", request.user, "usuário");
 }
 

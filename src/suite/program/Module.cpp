@@ -10,8 +10,7 @@ Module::Module(const std::filesystem::path& file) : handle_(::dlopen(file.c_str(
     if (!handle_)
         throw host::TFalha("O módulo " + file.filename().string() +
                            " não pôde ser carregado. Refaça a instalação do programa. (" + ::dlerror() + ")");
-    const auto function =
-        reinterpret_cast<host::TFuncaoInformacoesDoPacote>(::dlsym(handle_, "InformacoesDoPacote"));
+    const auto function = reinterpret_cast<host::TFuncaoInformacoesDoPacote>(::dlsym(handle_, "InformacoesDoPacote"));
     if (!function) {
         ::dlclose(handle_);
         throw host::TFalha("O arquivo " + file.string() + " não é um módulo deste programa.");

@@ -76,8 +76,11 @@ ParsedLine wrongUse(const std::string& what) { return {{}, what + ". Veja \"orcr
 void translateHelp(CLI::App& app) {
     auto formatter = std::make_shared<CLI::Formatter>();
     formatter->column_width(34);
-    for (const auto& [label, text] : {std::pair{"OPTIONS", "OPÇÕES"}, {"SUBCOMMAND", "COMANDO"},
-                                      {"SUBCOMMANDS", "COMANDOS"}, {"Usage", "Uso"}, {"TEXT", "TEXTO"},
+    for (const auto& [label, text] : {std::pair{"OPTIONS", "OPÇÕES"},
+                                      {"SUBCOMMAND", "COMANDO"},
+                                      {"SUBCOMMANDS", "COMANDOS"},
+                                      {"Usage", "Uso"},
+                                      {"TEXT", "TEXTO"},
                                       {"Env", "variável"}})
         formatter->label(label, text);
     app.formatter(formatter);
@@ -93,7 +96,8 @@ void addConsultOptions(CLI::App& command, ConsultOptions& options) {
         ->check(oneOf({"1", "2", "3"}));
     add("--de", options.from, "data inicial, o primeiro dia de um mês", "dd/mm/aaaa");
     add("--ate", options.to, "data final, o último dia de um mês", "dd/mm/aaaa");
-    add("--cenario", options.scenario, "0 normal (padrão), 1 otimista, 2 pessimista", "N")->check(oneOf({"0", "1", "2"}));
+    add("--cenario", options.scenario, "0 normal (padrão), 1 otimista, 2 pessimista", "N")
+        ->check(oneOf({"0", "1", "2"}));
     add("--relatorio", options.statement, "demonstração configurável, pelo código", "CODIGO");
     add("--totalizadores", options.totalizers, "totalizadores da demonstração, pelos códigos", "C,C");
     add("--estabelecimentos", options.establishments, "estabelecimentos, pelos números", "N,N");
@@ -162,7 +166,8 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
         ->type_name("N")
         ->check(number(1, 1000));
 
-    auto* scriptCommand = app.add_subcommand("roteiro", "executa um roteiro na janela e escreve o que acontece em JSON");
+    auto* scriptCommand =
+        app.add_subcommand("roteiro", "executa um roteiro na janela e escreve o que acontece em JSON");
     scriptCommand->add_option("F", script.file, "o roteiro, um passo por linha; - lê a entrada padrão")
         ->type_name("")
         ->required()
@@ -190,7 +195,8 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
     } catch (const CLI::RequiredError&) {
         return wrongUse("Falta o arquivo do roteiro; \"-\" lê a entrada padrão");
     } catch (const CLI::ArgumentMismatch& error) {
-        return wrongUse("Falta o valor da opção " + std::string(error.what()).substr(0, std::string(error.what()).find(':')));
+        return wrongUse("Falta o valor da opção " +
+                        std::string(error.what()).substr(0, std::string(error.what()).find(':')));
     } catch (const CLI::ParseError& error) {
         return wrongUse("Valor inválido em " + std::string(error.what()));
     }

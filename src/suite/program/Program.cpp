@@ -99,7 +99,7 @@ ExitCode runCommand(const Options& options, Interrupt& interrupt) {
         return runDemo(*options.demo, interrupt);
     if (options.consult || options.script)
         return runOnDatabase(options, interrupt);
-    std::cerr << "Informe um comando: \"consultar\" ou \"demo\". Veja \"orcreal --ajuda\".\n";
+    std::cerr << "Informe um comando: \"consultar\", \"roteiro\" ou \"demo\". Veja \"orcreal --ajuda\".\n";
     return ExitCode::WrongUse;
 }
 

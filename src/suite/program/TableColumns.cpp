@@ -16,10 +16,10 @@ struct Manner {
 
 // By field, of both grids. What is not here always stays.
 const std::map<std::string, Manner, std::less<>> Manners{
-    {"CONTA", {30, true}},        {"CODIGO", {25, true}},        {"SUBCONTA", {25, true}},
-    {"FILIAL", {0, true}},        {"CCUSTO", {0, true}},         {"RECDESP", {50, false}},
+    {"CONTA", {30, true}},         {"CODIGO", {25, true}},       {"SUBCONTA", {25, true}},
+    {"FILIAL", {0, true}},         {"CCUSTO", {0, true}},        {"RECDESP", {50, false}},
     {"TPATUALIZBASE", {40, true}}, {"INDICEATBASE", {40, true}}, {"TPPROJECAO", {39, true}},
-    {"TPBASEPROJ", {39, true}},   {"PERCORCADO", {40, true}},    {"VLRBASE", {3, false}},
+    {"TPBASEPROJ", {39, true}},    {"PERCORCADO", {40, true}},   {"VLRBASE", {3, false}},
     {"DELTAVARIACAO", {2, false}}, {"DELTAPERC", {1, false}},    {"PERCTOT", {0, true}},
 };
 

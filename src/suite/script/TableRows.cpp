@@ -14,8 +14,8 @@ constexpr std::size_t LeastStretch = 25;
 
 // Characters of a UTF-8 text; all that the database holds is one column wide.
 std::size_t length(std::string_view text) {
-    return static_cast<std::size_t>(
-        std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80; }));
+    return static_cast<std::size_t>(std::count_if(
+        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80; }));
 }
 
 std::string cut(std::string_view text, std::size_t width) {
@@ -66,7 +66,8 @@ Column load(const host::TDataSet& rows, const ShownColumn& shown) {
     column.number = cells.Descricao().Tipo != host::TTipoColuna::Texto;
     for (std::size_t i = 0; i < rows.RecordCount(); ++i) {
         const auto value = cells.Valor(rows.LinhaDe(i));
-        auto text = shown.zeroIsBlank && isZero(value) ? std::string() : host::TextoExibido(value, column.field->FormatoExibicao);
+        auto text = shown.zeroIsBlank && isZero(value) ? std::string()
+                                                       : host::TextoExibido(value, column.field->FormatoExibicao);
         column.width = std::max(column.width, length(text));
         column.cells.push_back(std::move(text));
     }
