@@ -73,6 +73,21 @@ TEST_F(Cabecalho, RemoverZeraSoORealizadoDasProjecoes) {
         << "the transaction has ended";
 }
 
+TEST_F(Cabecalho, FalhaAoRemoverNaoEsperaPeloUsuarioComATransacaoAberta) {
+    struct TSemTransacao : apoio::Interacao {
+        int Mensagem(const host::TMensagem& mensagem) override {
+            EXPECT_THROW(host::ZTConnection().GetSQLConnection().ExecuteDirect("DELETE FROM CO01_CTBORCADAVLR"),
+                         host::TFalha);
+            return Interacao::Mensagem(mensagem);
+        }
+    } usuario;
+    Dm();
+    servicos.Interacao = &usuario;
+    const host::TInstalacaoServicos comUsuario(servicos);
+    EXPECT_THROW(Dm().RemoverValorRealizado("x"), host::Abort);
+    EXPECT_EQ(1U, usuario.mensagens.size());
+}
+
 TEST_F(Cabecalho, FalhaAoRemoverDesfazMostraEInterrompe) {
     DuasProjecoesComValores();
     // In the second case the update runs, and the commit is what fails.
