@@ -4,6 +4,7 @@
 #include "host/Dialogos.h"
 #include "host/Formularios.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -99,8 +100,13 @@ class TDM04618 : public host::TDmZTTandorPadrao {
     bool CalculoDaProjecaoHeDetalhadoPorFilial();
     // Loads CdsFiliais with the establishments of FIDEmpresa.
     void CarregarFiliais();
-    // One step on a level of the dialog. When the user has cancelled: a message, the dialog closed, and an abort.
-    void IncrementarBarraProgresso(std::int32_t ANivel, host::TZTBarraProgressoDlg& AZTBarraProgressoDlg);
+    // One step on a level of the dialog. When the user has cancelled: ADesfazer, a message, the dialog closed, and an
+    // abort.
+    void IncrementarBarraProgresso(std::int32_t ANivel, host::TZTBarraProgressoDlg& AZTBarraProgressoDlg,
+                                   const std::function<void()>& ADesfazer = {});
+    // The same without the step.
+    void PararSeCancelado(host::TZTBarraProgressoDlg& AZTBarraProgressoDlg,
+                          const std::function<void()>& ADesfazer = {});
     // The statement of modes 1 and 2 (queries/). Runs nothing. LListaIDs must not be empty.
     std::string BuscarDadosOrcamentariaComBaseNoBalanco() const;
     // Mode 3 (queries/): loads the dataset, whose SQL side is ASqlDataSet, with each period as a column and a row for
@@ -112,6 +118,10 @@ class TDM04618 : public host::TDmZTTandorPadrao {
     // Loads the caller's dataset with the headers of LListaIDs: for mode 3 each of them, else their distinct periods in
     // order.
     void BuscarCabecalhoOrcamentaria(host::TZTClientDataSet& ADataSet, TDetalharSelecao ADetalharSelecao) const;
+    // Rebuilds the total rows of the statement FIDDemac, and if the user wants it of those that it depends on, in each
+    // projection of LListaIDs, which must not be empty (totalization/). A projection stands rebuilt or as it was: a
+    // failure or a cancel is shown and aborts, and what was done before stays.
+    void GerarTotalizacoesDemonstracoesConfiguraveis();
     // Sets the actual value of all rows of the projections (a list for an IN) to 0, and says so. A failure leaves
     // everything as it was, is shown, and aborts.
     void RemoverValorRealizado(const std::string& AIDsOrcadaInf);

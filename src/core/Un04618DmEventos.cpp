@@ -42,10 +42,18 @@ void TDM04618::DspCtbOrcadaVlrGetTableName(std::string& ATableName) {
     ATableName = "CO01_CTBORCADAVLR";
 }
 
-void TDM04618::IncrementarBarraProgresso(std::int32_t ANivel, host::TZTBarraProgressoDlg& AZTBarraProgressoDlg) {
+void TDM04618::IncrementarBarraProgresso(std::int32_t ANivel, host::TZTBarraProgressoDlg& AZTBarraProgressoDlg,
+                                         const std::function<void()>& ADesfazer) {
     AZTBarraProgressoDlg.BuscarBarraProgresso(ANivel).AvancarProgresso(0);
+    PararSeCancelado(AZTBarraProgressoDlg, ADesfazer);
+}
+
+void TDM04618::PararSeCancelado(host::TZTBarraProgressoDlg& AZTBarraProgressoDlg,
+                                const std::function<void()>& ADesfazer) {
     if (!AZTBarraProgressoDlg.GetProcessoCancelado())
         return;
+    if (ADesfazer)
+        ADesfazer();
     host::GZTUtilsDialogs.Informacao("Processo Cancelado.");
     AZTBarraProgressoDlg.FecharBarraProgresso();
     host::Servicos().Interacao->ProcessarMensagens();

@@ -42,7 +42,7 @@ class HOST_API TUtilSistema {
     virtual ~TUtilSistema() = default;
     virtual std::int64_t GetIDFilialLogada() const = 0;
     virtual std::int64_t GetIDUsuarioLogado() const = 0;
-    // The folder for what is kept to look into later; it need not exist yet.
+    // The folder for what is kept to look into later, with a slash at its end; it need not exist yet.
     virtual std::string BuscarPastaPadraoLogSistema() const = 0;
 };
 

@@ -1,11 +1,13 @@
 #include "selection/Un04618FormSelecao.h"
 
 #include "core/Un04618Const.h"
+#include "host/DbManager.h"
 #include "host/Falhas.h"
 #include "host/Servicos.h"
 #include "host/Texto.h"
 #include "host/Utilidades.h"
 #include "selection/DefinicoesLookups.h"
+#include "selection/SqlSelecao.h"
 
 namespace pct04618 {
 
@@ -94,8 +96,35 @@ void TForm04618Selecao::ActOKExecute(host::TControle*) {
 }
 
 void TForm04618Selecao::ExecutarConsultaDoModo() {
+    const bool LEmColunas = Modo() == ModoPeriodosEmColunas || Modo() == ModoMatricial;
+    if (Visualizacao() == 2 && LEmColunas && !AtualizarTotalizacoes())
+        return;
     if (Visualizacao() == 1 || Modo() == ModoPeriodosEmColunas)
         BuscarInformacoesOrcamentaria();
+}
+
+bool TForm04618Selecao::JaExistemProjecoesGeradas() const {
+    return !host::BuscarInstanciaZTUtilsDbManager()
+                .AbrirConsultaSQL(host::Format(sql::TotalizacoesGeradas,
+                                               {FDm04618.FInformacoesCtbOrcadaInf.LListaIDs, FDm04618.FIDDemac}),
+                                  "JaExistemProjecoesGeradas")
+                ->IsEmpty();
+}
+
+bool TForm04618Selecao::AtualizarTotalizacoes() {
+    constexpr int Consultar = 6;
+    constexpr int Reatualizar = 7;
+    const int LResposta =
+        JaExistemProjecoesGeradas()
+            ? GZTUtilsDialogs.ConfirmacaoCustomizada(
+                  "Já existem projeções geradas para os totalizadores do relatório.\r\rDeseja somente consultar ou "
+                  "reatualizar e consultar as projeções \rpara os totalizadores?",
+                  host::TNivelMensagem::Confirmacao, Consultar,
+                  "Confirmação:", {"Consultar", "Reatualizar", "Cancelar"})
+            : Reatualizar;
+    if (LResposta == Reatualizar)
+        FDm04618.GerarTotalizacoesDemonstracoesConfiguraveis();
+    return LResposta == Consultar || LResposta == Reatualizar;
 }
 
 void TForm04618Selecao::AtribuirPropriedadesDm04618() {

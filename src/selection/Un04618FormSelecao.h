@@ -61,6 +61,8 @@ class TForm04618Selecao final : public host::TFormZTTandorPadraoResult {
     void AtribuirHolding();
     TDetalhePercentual DetalhePercentual() const;
     void ExecutarConsultaDoModo();
+    bool JaExistemProjecoesGeradas() const; // totals of the statement, in a projection of the selection
+    bool AtualizarTotalizacoes();           // the totals step; False when the user ends the commit there
     void BuscarInformacoesOrcamentaria();
 
     // Lookups (Un04618FormSelecaoLookups.cpp)

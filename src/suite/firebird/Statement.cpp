@@ -1,5 +1,6 @@
 #include "host/Falhas.h"
 #include "suite/firebird/Attachment.h"
+#include "suite/firebird/Blocker.h"
 #include "suite/firebird/Charset.h"
 #include "suite/firebird/Cursor.h"
 #include "suite/firebird/Parameters.h"
@@ -77,8 +78,10 @@ void Statement::execute(Transaction& transaction, std::span<const host::TValor> 
             });
             return;
         } catch (const host::TFalhaBanco& failure) {
-            if (failure.Tipo() != host::TTipoFalhaBanco::Bloqueio || std::chrono::steady_clock::now() >= end)
+            if (failure.Tipo() != host::TTipoFalhaBanco::Bloqueio)
                 throw;
+            if (std::chrono::steady_clock::now() >= end)
+                throw withBlocker(transaction.attachment(), failure);
         }
     }
 }

@@ -77,6 +77,27 @@ void writeOutput(const host::TGrade& grid, const ConsultOptions& options, const 
         throw host::TFalha("Não foi possível escrever o resultado na saída.");
 }
 
+// The questions of the commit and the options that answer them: a value is the caption of its button in small letters.
+script::Headless::Answer answer(const host::TMensagem& question, const ConsultOptions& options) {
+    const struct {
+        const char* option;
+        const std::string& value;
+        std::vector<std::string> values;
+    } answers[] = {{"--totais", options.totals, {"consultar", "reatualizar"}},
+                   {"--dependencias", options.dependencies, {"selecionado", "todos"}}};
+    for (const auto& [option, value, values] : answers) {
+        std::vector<std::string> captions = question.Botoes;
+        for (auto& caption : captions)
+            caption.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(caption.front())));
+        if (!std::equal(values.begin(), values.end(), captions.begin()))
+            continue;
+        if (value.empty())
+            return {0, std::string(" Use ") + option + " " + values[0] + " ou " + option + " " + values[1] + "."};
+        return {value == values[0] ? 6 : 7, {}};
+    }
+    return {};
+}
+
 // That of the dataset which the commit has opened; null when the rules have declined it.
 const host::TGrade* resultGrid(const host::TForm& window) {
     for (const char* name : {"DbgCtbOrcada", "DbgMostraCtbOrcMensal"}) {
@@ -103,6 +124,7 @@ ExitCode runConsult(const ConsultOptions& options, const Login& login, script::H
         fillSelection(form, options, interaction);
         title = heading(form, options, login);
     };
+    interaction.onQuestion = [&](const host::TMensagem& question) { return answer(question, options); };
     window->Executar(window->Acao("ActSelecionar"));
     const auto* grid = resultGrid(*window);
     if (!grid)

@@ -101,6 +101,11 @@ class Filler {
         constexpr const char* OnlyStatement = "ela pede \"--visualizar demonstracao\"";
         if (options_.view == "demonstracao" && options_.statement.empty())
             throw host::TFalha("Informe a demonstração com --relatorio CODIGO.");
+        for (const auto& [option, value] :
+             {std::pair{"--totais", options_.totals}, {"--dependencias", options_.dependencies}})
+            if (!value.empty() && options_.view != "demonstracao")
+                throw host::TFalha(std::string("A opção ") + option + " não se aplica: " + OnlyStatement +
+                                   ". Retire a opção.");
         chooseCodes("--relatorio", "LkpRelatorioDemonstConfig", options_.statement, OnlyStatement);
         chooseCodes("--totalizadores", "LkpTotalizadorDemonstConfig", options_.totalizers, OnlyStatement);
         if (options_.details.empty())

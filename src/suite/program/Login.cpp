@@ -45,6 +45,7 @@ Login::Login(const LoginRequest& request) : logFolder_(request.logFolder) {
         logFolder_ = userFolder("XDG_STATE_HOME", ".local/state").string();
     else if (!std::filesystem::is_directory(logFolder_))
         throw host::TFalha("A pasta de log \"" + logFolder_ + "\" não existe. Crie-a ou indique outra.");
+    logFolder_ = (std::filesystem::path(logFolder_) / "").string();
     const auto company = find("SC00_EMPRESA", "IDEMPRESA", "EMPRESA", "", request.company, "empresa");
     if (company == 0)
         throw host::TFalha("O banco de dados não tem nenhuma empresa cadastrada.");

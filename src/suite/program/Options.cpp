@@ -111,6 +111,12 @@ void addConsultOptions(CLI::App& command, ConsultOptions& options) {
         ->check(oneOf({"orcado", "base", "vertical"}));
     command.add_flag("--diferenca", options.difference, "percentual pelo valor da diferença");
     command.add_flag("--periodos-sem-movimento", options.idlePeriods, "mostra também os períodos sem movimento");
+    add("--totais", options.totals, "demonstração com totais já gerados: consultar como estão, ou reatualizar antes",
+        "T")
+        ->check(oneOf({"consultar", "reatualizar"}));
+    add("--dependencias", options.dependencies,
+        "demonstração que depende de outras: gerar só os totais do selecionado, ou de todos", "D")
+        ->check(oneOf({"selecionado", "todos"}));
     add("--formato", options.format, "tabela (padrão), csv, json, xlsx ou html", "T")
         ->check(oneOf({"tabela", "csv", "json", "xlsx", "html"}));
     add("--saida", options.output, "grava o resultado no arquivo F", "F");

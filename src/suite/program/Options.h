@@ -27,6 +27,8 @@ struct ConsultOptions {
     std::string percentage;
     bool difference = false;
     bool idlePeriods = false;
+    std::string totals;       // the answer where totals exist: consultar or reatualizar
+    std::string dependencies; // the answer where a statement depends on others: selecionado or todos
     std::string format = "tabela";
     std::string output; // a file; empty for standard output
 };

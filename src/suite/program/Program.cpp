@@ -72,6 +72,7 @@ ExitCode runOnDatabase(const Options& options, Interrupt& interrupt) {
     } const detach{interrupt};
 
     script::Headless interaction(std::cerr, onTerminal());
+    interaction.onCancelQuery = [&] { return interrupt.requested(); };
     host::TServicos services;
     services.Conexao = &connection;
     services.Interacao = &interaction;
@@ -84,7 +85,10 @@ ExitCode runOnDatabase(const Options& options, Interrupt& interrupt) {
     services.Leiautes = &layouts;
     const host::TInstalacaoServicos loggedIn(services);
     const Module module(moduleFile());
-    return options.script ? runScript(*options.script) : runConsult(*options.consult, login, interaction);
+    const auto stop = [&] { return interrupt.requested(); };
+    const auto code =
+        options.script ? runScript(*options.script, stop) : runConsult(*options.consult, login, interaction);
+    return code != ExitCode::Done && interrupt.requested() ? ExitCode::Cancelled : code;
 }
 
 std::string versionText() {

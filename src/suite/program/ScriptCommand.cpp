@@ -11,9 +11,9 @@ namespace suite::program {
 
 namespace {
 
-ExitCode play(std::istream& script, const host::TFabricaDeForm& window) {
+ExitCode play(std::istream& script, const host::TFabricaDeForm& window, const std::function<bool()>& cancelled) {
     try {
-        script::ScriptRunner(script, std::cout, window).run();
+        script::ScriptRunner(script, std::cout, window, cancelled).run();
     } catch (const script::ScriptFailure& failure) {
         std::cout.flush();
         std::cerr << failure.what() << "\n";
@@ -26,14 +26,14 @@ ExitCode play(std::istream& script, const host::TFabricaDeForm& window) {
 
 } // namespace
 
-ExitCode runScript(const ScriptOptions& options) {
+ExitCode runScript(const ScriptOptions& options, const std::function<bool()>& cancelled) {
     const auto window = host::FindClass("TForm04618");
     if (!window)
         throw host::TFalha("O módulo carregado não tem a janela de consulta.");
     if (options.file == "-")
-        return play(std::cin, window);
+        return play(std::cin, window, cancelled);
     std::ifstream file(options.file);
-    return play(file, window);
+    return play(file, window, cancelled);
 }
 
 } // namespace suite::program

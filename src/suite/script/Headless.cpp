@@ -7,6 +7,10 @@
 namespace suite::script {
 
 int Headless::Mensagem(const host::TMensagem& message) {
+    const bool question = message.Botoes.size() > 1;
+    const auto answer = question && onQuestion ? onQuestion(message) : Answer{};
+    if (answer.code != 0)
+        return answer.code;
     std::string text = message.Texto;
     std::replace(text.begin(), text.end(), '\r', '\n');
     progress_.clear();
@@ -15,8 +19,8 @@ int Headless::Mensagem(const host::TMensagem& message) {
         messages_ << text << std::endl;
     last_ = text;
     ++count_;
-    if (message.Botoes.size() > 1)
-        throw host::TFalha("A pergunta acima ficou sem resposta.");
+    if (question)
+        throw host::TFalha("A pergunta acima ficou sem resposta." + answer.advice);
     return 6;
 }
 

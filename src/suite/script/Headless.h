@@ -11,19 +11,27 @@
 namespace suite::script {
 
 // The host without a screen: messages go to a stream, dialogs are driven by a function, progress is drawn on a
-// terminal. A question has nobody to answer it: it is a host::TFalha.
+// terminal. A question that nobody answers is a host::TFalha.
 class Headless final : public host::TInteracao {
   public:
     Headless(std::ostream& messages, bool terminal) : messages_(messages), progress_(messages, terminal) {}
 
     // Runs once for each dialog that opens; a dialog still open behind it is closed by its "Sair".
     std::function<void(host::TFormZTTandorPadraoResult&)> onModal;
+    // An answer by its result code, 0 for none, and then how to give one. A question that is answered is not shown.
+    struct Answer {
+        int code = 0;
+        std::string advice;
+    };
+    std::function<Answer(const host::TMensagem&)> onQuestion;
+    // Whether the user wants the work under way to stop.
+    std::function<bool()> onCancelQuery;
     // Number of messages shown so far.
     int messageCount() const { return count_; }
 
     int Mensagem(const host::TMensagem& message) override;
     void Progresso(const host::TEventoProgresso& event) override { progress_.show(event); }
-    bool ProgressoCancelado() override { return false; }
+    bool ProgressoCancelado() override { return onCancelQuery && onCancelQuery(); }
     void MostrarModal(host::TFormZTTandorPadraoResult& form) override;
     void Focar(host::TControle&) override {}
     void Pesquisar(host::TZTLookupEx&) override {}

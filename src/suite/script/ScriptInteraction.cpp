@@ -74,6 +74,11 @@ void ScriptInteraction::throwIfAnswersLeft() const {
                                 " sobrou: nenhuma pergunta a pediu.");
 }
 
+void ScriptInteraction::throwIfCancelled() const {
+    if (stopped())
+        throw ScriptFailure(Kind::Refused, out_.line(), "O roteiro foi interrompido.");
+}
+
 int ScriptInteraction::takeAnswer(const host::TMensagem& question) {
     if (answers_.empty()) {
         out_.write("mensagem", describe(question, "null"));

@@ -14,7 +14,7 @@ namespace suite::script {
 // searches are handed to whoever runs the steps.
 class ScriptInteraction final : public host::TInteracao {
   public:
-    explicit ScriptInteraction(JsonLines& out) : out_(out) {}
+    ScriptInteraction(JsonLines& out, std::function<bool()> cancelled) : out_(out), cancelled_(std::move(cancelled)) {}
 
     std::function<void(host::TFormZTTandorPadraoResult&)> onModal;
     std::function<void(host::TZTLookupEx&)> onSearch;
@@ -25,10 +25,11 @@ class ScriptInteraction final : public host::TInteracao {
     // A question that could not be answered, also where a rule has swallowed the failure.
     void throwIfFailed() const;
     void throwIfAnswersLeft() const;
+    void throwIfCancelled() const;
 
     int Mensagem(const host::TMensagem& message) override;
     void Progresso(const host::TEventoProgresso& event) override;
-    bool ProgressoCancelado() override { return cancelAt_ > 0 && steps_ >= cancelAt_; }
+    bool ProgressoCancelado() override { return stopped() || (cancelAt_ > 0 && steps_ >= cancelAt_); }
     void MostrarModal(host::TFormZTTandorPadraoResult& form) override { onModal(form); }
     void Focar(host::TControle& control) override;
     void Pesquisar(host::TZTLookupEx& lookup) override { onSearch(lookup); }
@@ -39,10 +40,12 @@ class ScriptInteraction final : public host::TInteracao {
         int line;
         int code;
     };
+    bool stopped() const { return cancelled_ && cancelled_(); }
     [[noreturn]] void fail(ScriptFailure failure);
     int takeAnswer(const host::TMensagem& question);
 
     JsonLines& out_;
+    std::function<bool()> cancelled_;
     std::deque<Answer> answers_;
     std::optional<ScriptFailure> failure_;
     int nextCancel_ = 0; // for the progress dialog still to come; 0: none

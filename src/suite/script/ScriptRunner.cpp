@@ -17,8 +17,9 @@ host::TServicos servicesWith(host::TInteracao& interaction) {
 
 } // namespace
 
-ScriptRunner::ScriptRunner(std::istream& script, std::ostream& out, host::TFabricaDeForm window)
-    : out_(out), reader_(script), interaction_(out_), installed_(servicesWith(interaction_)),
+ScriptRunner::ScriptRunner(std::istream& script, std::ostream& out, host::TFabricaDeForm window,
+                           std::function<bool()> cancelled)
+    : out_(out), reader_(script), interaction_(out_, std::move(cancelled)), installed_(servicesWith(interaction_)),
       factory_(std::move(window)) {
     interaction_.onModal = [this](host::TFormZTTandorPadraoResult& form) { showModal(form); };
     interaction_.onSearch = [this](host::TZTLookupEx& lookup) { answerSearch(lookup); };
@@ -67,6 +68,7 @@ bool ScriptRunner::step() {
         if (!next)
             return false;
         out_.setLine(next->line);
+        interaction_.throwIfCancelled();
         execute(*next);
         interaction_.throwIfFailed();
     } catch (...) {

@@ -18,8 +18,10 @@ namespace suite::script {
 // on it until it closes; a script that ends before leaves it by its "Sair".
 class ScriptRunner {
   public:
-    // Takes the place of the interaction among the current services for as long as it lives.
-    ScriptRunner(std::istream& script, std::ostream& out, host::TFabricaDeForm window);
+    // Takes the place of the interaction among the current services for as long as it lives. Once cancelled answers
+    // true, progress dialogs are cancelled and no further step begins.
+    ScriptRunner(std::istream& script, std::ostream& out, host::TFabricaDeForm window,
+                 std::function<bool()> cancelled = {});
     ScriptRunner(const ScriptRunner&) = delete;
     ScriptRunner& operator=(const ScriptRunner&) = delete;
 

@@ -11,18 +11,26 @@ constexpr auto Pause = std::chrono::milliseconds(100);
 
 void TerminalProgress::show(const host::TEventoProgresso& event) {
     using Kind = host::TEventoProgresso::TTipo;
+    innermost_ = std::max(innermost_, event.Nivel);
     switch (event.Tipo) {
+    case Kind::Mostrar:
+        innermost_ = 0;
+        return;
     case Kind::Fechar:
         return clear();
     case Kind::Texto:
+        if (event.Nivel < innermost_)
+            return keep(event.Texto);
         text_ = event.Texto;
         return draw(text_ + "...");
     case Kind::Maximo:
-        maximum_ = event.Valor;
+        if (event.Nivel == innermost_)
+            maximum_ = event.Valor;
         return;
     case Kind::Passo:
-        return show(text_, static_cast<std::size_t>(event.Valor), static_cast<std::size_t>(maximum_));
-    case Kind::Mostrar:
+        if (event.Nivel == innermost_)
+            show(text_, static_cast<std::size_t>(event.Valor), static_cast<std::size_t>(maximum_));
+        return;
     case Kind::Titulo:
         return;
     }
@@ -41,6 +49,8 @@ void TerminalProgress::draw(const std::string& line) {
     if (terminal_)
         out_ << "\r\033[K" << line << std::flush;
 }
+
+void TerminalProgress::keep(const std::string& line) { draw(line + "\n"); }
 
 void TerminalProgress::clear() { draw(""); }
 

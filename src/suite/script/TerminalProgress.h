@@ -8,7 +8,8 @@
 
 namespace suite::script {
 
-// The progress dialog as one line of a terminal, drawn over itself. Elsewhere it draws nothing.
+// The progress dialog on a terminal: the innermost level as one line drawn over itself, the texts of the levels around
+// it as lines that stay. Elsewhere it draws nothing.
 class TerminalProgress {
   public:
     TerminalProgress(std::ostream& out, bool terminal) : out_(out), terminal_(terminal) {}
@@ -20,11 +21,13 @@ class TerminalProgress {
 
   private:
     void draw(const std::string& line);
+    void keep(const std::string& line);
 
     std::ostream& out_;
     bool terminal_;
     std::string text_;
-    int maximum_ = 0;
+    int innermost_ = 0; // level of the dialog in view
+    int maximum_ = 0;   // of that level
     std::chrono::steady_clock::time_point last_;
 };
 

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "host/Falhas.h"
+
+namespace suite::firebird {
+
+class Attachment;
+
+// The failure to get a lock, with the user who holds it in its sentence as far as this user may see the connections of
+// the database; else as it is.
+host::TFalhaBanco withBlocker(Attachment& attachment, const host::TFalhaBanco& failure);
+
+} // namespace suite::firebird

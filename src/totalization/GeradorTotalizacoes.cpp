@@ -1,0 +1,114 @@
+#include "totalization/GeradorTotalizacoes.h"
+
+#include "core/Un04618Const.h"
+#include "host/DbManager.h"
+#include "host/Falhas.h"
+#include "host/Servicos.h"
+#include "host/Texto.h"
+#include "totalization/SqlExclusao.h"
+
+namespace pct04618 {
+
+namespace {
+
+constexpr int NumeroDeEtapas = 6;
+
+} // namespace
+
+void TDM04618::GerarTotalizacoesDemonstracoesConfiguraveis() { TGeradorTotalizacoes(*this).Gerar(); }
+
+TGeradorTotalizacoes::TGeradorTotalizacoes(TDM04618& ADm)
+    : FDm(ADm),
+      FRelatorios(host::BuscarInstanciaZTUtilsDbManager().CreateClientDataSetWithConnection("relatórios a totalizar")),
+      FProjecoes(host::BuscarInstanciaZTUtilsDbManager().CreateClientDataSetWithConnection("projeções a totalizar")),
+      FProgresso(2) {}
+
+void TGeradorTotalizacoes::Gerar() {
+    FDm.BuscarCabecalhoOrcamentaria(*FProjecoes, ModoPeriodosEmColunas);
+    RecusarCiclos();
+    ConfirmarDependenciaRelatorios(*FRelatorios);
+    BuscarRelatoriosATotalizar(*FRelatorios);
+    if (FRelatorios->IsEmpty())
+        return;
+    FProgresso.SetTitulo("Demonstrações Configuráveis: Gerando totalizadores relatórios.");
+    FProgresso.MostrarBarraProgresso();
+    FProgresso.BuscarBarraProgresso(NivelProjecoes).SetValorMaximo(static_cast<int>(FRelatorios->RecordCount()));
+    for (FRelatorios->First(); !FRelatorios->Eof(); FRelatorios->Next())
+        GerarRelatorio();
+    FProgresso.FecharBarraProgresso();
+}
+
+void TGeradorTotalizacoes::GerarRelatorio() {
+    if (FProjecoes->IsEmpty())
+        return;
+    FProgresso.BuscarBarraProgresso(NivelProjecoes).SetValorMaximo(static_cast<int>(FProjecoes->RecordCount()));
+    FProgresso.BuscarBarraProgresso(NivelEtapas).SetValorMaximo(NumeroDeEtapas);
+    for (FProjecoes->First(); !FProjecoes->Eof(); FProjecoes->Next()) {
+        GerarProjecao();
+        FProgresso.BuscarBarraProgresso(NivelEtapas).SetValorMaximo(NumeroDeEtapas);
+    }
+}
+
+void TGeradorTotalizacoes::GerarProjecao() {
+    FProgresso.BuscarBarraProgresso(NivelProjecoes)
+        .SetTexto("Gerando totalizações Relatório " + FRelatorios->FieldByName("CODIGO").AsString() + " para " +
+                  Periodo());
+    FDm.IncrementarBarraProgresso(NivelProjecoes, FProgresso);
+    auto& LEtapas = FProgresso.BuscarBarraProgresso(NivelEtapas);
+    LEtapas.SetTexto("Excluindo totalizações orçamentária " + Periodo());
+    FTransacao = host::ZTConnection().IniciarTransacao();
+    ReservarProjecao();
+    ExcluirTotalizacoes();
+    LEtapas.SetTexto("Gerando totalizações orçamentária " + Periodo());
+    GerarDetalhamentosContas();
+    GerarTotaisAnaliticosSomenteContas();
+    GerarTotaisAnaliticosComOutrosEContas();
+    GerarTotaisAnaliticosVinculados();
+    GerarTotaisSinteticos();
+    GerarTotaisSinteticosVinculados();
+    ConfirmarProjecao();
+}
+
+void TGeradorTotalizacoes::ReservarProjecao() {
+    FScript = host::Format(sql::ReservarProjecao, {Projecao()});
+    Executar("ReservarProjecao", "Não foi possível reservar a projeção para gerar as totalizações; nada foi alterado "
+                                 "nela.\r\rErros : ");
+}
+
+void TGeradorTotalizacoes::ExcluirTotalizacoes() {
+    FScript = host::Format(sql::ExcluirTotalizacoes, {Projecao(), Relatorio()});
+    Executar("ExcluirTotalizacoes", "Não foi possível excluir as totalizações das Configurações de \rDemonstrações "
+                                    "Contábeis.\r\rErros : ");
+}
+
+void TGeradorTotalizacoes::ConfirmarProjecao() {
+    try {
+        host::ZTConnection().FinalizarTransacao(*FTransacao);
+    } catch (const host::TFalha& E) {
+        Falhar("Não foi possível gravar as totalizações da projeção; ela ficou como estava.\r\rErros : ", E.what());
+    }
+    FTransacao.reset();
+}
+
+void TGeradorTotalizacoes::Executar(const char* ANome, const char* AMensagem) {
+    const host::TInstrucao LInstrucoes[] = {{ANome, FScript}};
+    const auto LResultado = host::ZTConnection().ExecutouSQL(LInstrucoes, false);
+    if (!LResultado.Sucesso)
+        Falhar(AMensagem, LResultado.Mensagem);
+}
+
+void TGeradorTotalizacoes::Falhar(const char* AMensagem, const std::string& AErro) {
+    FTransacao.reset(); // rolls back before the message: nobody else is to wait while it is read
+    FDm.PararSeCancelado(FProgresso);
+    host::GZTUtilsDialogs.Erro(AMensagem + AErro);
+    throw host::Abort();
+}
+
+std::string TGeradorTotalizacoes::Periodo() const {
+    const auto LDia = [this](const char* ACampo) {
+        return FProjecoes->FieldByName(ACampo).AsDateTime().value_or(host::TDataHora()).SemHora().Texto();
+    };
+    return LDia("DATAINICIO") + " a " + LDia("DATAFIM");
+}
+
+} // namespace pct04618
