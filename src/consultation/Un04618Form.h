@@ -1,6 +1,5 @@
 #pragma once
 
-#include "consultation/LabelColorido.h"
 #include "consultation/RegrasCelulas.h"
 #include "core/Un04618Dm.h"
 #include "host/Leiaute.h"
@@ -60,16 +59,17 @@ class TForm04618 final : public host::TFormZTTandorPadraoSelecao {
     host::TZTDbGridDevLeiaute GdlConsultarProj{"GdlConsultarProj", "{41C1427C-BDE7-4E49-B46D-FDD8B0A9C9B3}"};
     host::TZTDbGridDevLeiaute GdlMostraCtbOrcMensal{"GdlMostraCtbOrcMensal", "{08472431-F450-4497-9C51-C88301BD20AD}"};
     host::TPanel PnlLegenda{"PnlLegenda"};
-    TLabelColorido LblCorRecRealizMaiorProj{"LblCorRecRealizMaiorProj", cores::Azul, cores::Azul};
+    host::TLabelColorido LblCorRecRealizMaiorProj{"LblCorRecRealizMaiorProj", cores::Azul, cores::Azul};
     host::TLabel LblRecRealizMaiorProj{"LblRecRealizMaiorProj"};
-    TLabelColorido LblCorRecRealizMenorProj{"LblCorRecRealizMenorProj", cores::Vermelho, cores::Vermelho};
+    host::TLabelColorido LblCorRecRealizMenorProj{"LblCorRecRealizMenorProj", cores::Vermelho, cores::Vermelho};
     host::TLabel LblRecRealizMenorProj{"LblRecRealizMenorProj"};
-    TLabelColorido LblCorDespRealizMaiorProj{"LblCorDespRealizMaiorProj", cores::Roxo, cores::Roxo};
+    host::TLabelColorido LblCorDespRealizMaiorProj{"LblCorDespRealizMaiorProj", cores::Roxo, cores::Roxo};
     host::TLabel LblDespRealizMaiorProj{"LblDespRealizMaiorProj"};
-    TLabelColorido LblCorDespRealizMenorProj{"LblCorDespRealizMenorProj", cores::VerdeAzulado, cores::VerdeAzulado};
+    host::TLabelColorido LblCorDespRealizMenorProj{"LblCorDespRealizMenorProj", cores::VerdeAzulado,
+                                                   cores::VerdeAzulado};
     host::TLabel LblDespRealizMenorProj{"LblDespRealizMenorProj"};
     host::TPanel PnlLegendaGradeOrcMensal{"PnlLegendaGradeOrcMensal"};
-    TLabelColorido LblLegendaGradeOrcMensal{"LblLegendaGradeOrcMensal", cores::VerdeAzulado};
+    host::TLabelColorido LblLegendaGradeOrcMensal{"LblLegendaGradeOrcMensal", cores::VerdeAzulado};
 };
 
 } // namespace pct04618

@@ -3,12 +3,15 @@
 #include "host/DataHora.h"
 #include "host/Exportar.h"
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace host {
+
+using TCor = std::uint32_t; // 0xRRGGBB
 
 // Keys to which rules answer.
 enum class TTecla { Enter, Baixo, F11, Esc };
@@ -75,6 +78,19 @@ class HOST_API TPanel : public TControle {
 class HOST_API TLabel : public TControle {
   public:
     using TControle::TControle;
+};
+
+// A label in a colour of its own. The same colour for font and background makes it a swatch.
+class HOST_API TLabelColorido : public TLabel {
+  public:
+    TLabelColorido(std::string ANome, TCor AFonte, std::optional<TCor> AFundo = std::nullopt)
+        : TLabel(std::move(ANome)), FFonte(AFonte), FFundo(AFundo) {}
+    TCor Fonte() const { return FFonte; }
+    std::optional<TCor> Fundo() const { return FFundo; }
+
+  private:
+    TCor FFonte;
+    std::optional<TCor> FFundo;
 };
 
 class HOST_API TZTCheckBox : public TControle {

@@ -10,8 +10,6 @@
 
 namespace host {
 
-using TCor = std::uint32_t; // 0xRRGGBB
-
 // How a cell is shown, beside its text. Without a colour the front end's own holds.
 struct HOST_API TAparencia {
     bool Negrito = false;

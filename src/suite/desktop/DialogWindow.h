@@ -1,0 +1,26 @@
+#pragma once
+
+#include "suite/desktop/FormBinding.h"
+
+#include <QDialog>
+
+namespace suite::desktop {
+
+// A modal dialog of the module on screen, laid out by the description of its form's name. Kept as long as its form: a
+// second showing finds everything as it was left.
+class DialogWindow : public QDialog {
+    Q_OBJECT
+
+  public:
+    DialogWindow(host::TFormZTTandorPadraoResult& form, QWidget* parent);
+
+    FormBinding& binding() { return binding_; }
+    // Shows the dialog until the form is closed. Closing the window is the form's "Sair".
+    void run();
+
+  private:
+    FormBinding binding_;
+    host::TFormZTTandorPadraoResult& form_;
+};
+
+} // namespace suite::desktop

@@ -1,0 +1,30 @@
+// The widgets of a form follow its controls, and what the user does reaches them.
+#include "suite/desktop/FormBinding.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QWidget>
+
+namespace {
+
+class UmFormulario : public host::TForm {
+  public:
+    UmFormulario() : TForm("UmFormulario", "Um") { Registrar({&Rotulo}); }
+    host::TLabel Rotulo{"Rotulo"};
+};
+
+TEST(Vinculo, UmaVezCadaNome) {
+    int argumentos = 1;
+    char nome[] = "teste";
+    char* valores[] = {nome, nullptr};
+    const QApplication aplicacao(argumentos, valores);
+    UmFormulario formulario;
+    QWidget janela;
+    suite::desktop::FormBinding vinculo(formulario, janela);
+    EXPECT_EQ(vinculo.unbound(), std::vector<std::string>{"Rotulo"});
+    EXPECT_EQ(vinculo.widget("Rotulo"), vinculo.widget("Rotulo"));
+    EXPECT_TRUE(vinculo.unbound().empty());
+}
+
+} // namespace
