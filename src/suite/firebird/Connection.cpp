@@ -69,6 +69,12 @@ constexpr const char* GeneratorQuery = R"(
 
 } // namespace
 
+std::string findGenerator(Transaction& transaction, const std::string& table) {
+    const host::TValor byName = "GEN_" + table;
+    const host::TValor parameters[] = {byName, table, byName};
+    return TextoDe(queryValue(transaction, GeneratorQuery, "gerador de " + table, parameters));
+}
+
 Connection::~Connection() {
     // Whoever still holds a transaction keeps an ended one.
     for (auto* held : open_)
@@ -144,9 +150,7 @@ std::string Connection::generatorOf(const std::string& table) {
     if (const auto known = generators_.find(table); known != generators_.end())
         return known->second;
     Transaction transaction(attachment_, TransactionMode::ReadOnly);
-    const host::TValor byName = "GEN_" + table;
-    const host::TValor parameters[] = {byName, table, byName};
-    auto name = TextoDe(queryValue(transaction, GeneratorQuery, "gerador de " + table, parameters));
+    const auto name = findGenerator(transaction, table);
     if (name.empty())
         throw host::TFalha("A tabela " + table + " não tem gerador de chaves neste banco de dados.");
     return generators_[table] = name;

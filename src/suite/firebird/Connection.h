@@ -10,6 +10,10 @@
 
 namespace suite::firebird {
 
+// The generator of a table's keys: the one named GEN_ and the table, else one that a BEFORE INSERT trigger of the table
+// uses. Empty where there is none.
+std::string findGenerator(Transaction& transaction, const std::string& table);
+
 // The host's connection over one attachment.
 class Connection final : public host::TZTConnection, public host::TSQLConnection {
   public:

@@ -114,6 +114,16 @@ void execute(Transaction& transaction, std::string_view sql, std::string name) {
     Statement(transaction, sql, std::move(name)).execute(transaction);
 }
 
+host::TColunas queryRows(Transaction& transaction, std::string_view sql, std::string name,
+                         std::span<const host::TValor> parameters) {
+    Statement statement(transaction, sql, std::move(name));
+    auto cursor = statement.open(transaction, parameters);
+    host::TColunas columns(cursor.columns().begin(), cursor.columns().end());
+    while (cursor.read(columns, 4096) > 0) {
+    }
+    return columns;
+}
+
 host::TValor queryValue(Transaction& transaction, std::string_view sql, std::string name,
                         std::span<const host::TValor> parameters) {
     Statement statement(transaction, sql, std::move(name));

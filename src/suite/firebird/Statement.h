@@ -40,6 +40,9 @@ class Statement {
 
 // Runs one statement without parameters and rows.
 void execute(Transaction& transaction, std::string_view sql, std::string name);
+// All rows of a select at once.
+host::TColunas queryRows(Transaction& transaction, std::string_view sql, std::string name,
+                         std::span<const host::TValor> parameters = {});
 // The one value of the first row; NULL where there is no row.
 host::TValor queryValue(Transaction& transaction, std::string_view sql, std::string name,
                         std::span<const host::TValor> parameters = {});

@@ -178,7 +178,8 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
         ->type_name("")
         ->required()
         ->check(readable());
-    for (auto* command : {consultCommand, demoCommand, scriptCommand}) {
+    auto* verifyCommand = app.add_subcommand("verificar", "diz se o banco de dados serve, e o que lhe falta");
+    for (auto* command : {consultCommand, demoCommand, scriptCommand, verifyCommand}) {
         command->group("Comandos");
         command->set_help_flag("-h,--help,--ajuda", "mostra esta ajuda")->group("Opções do comando");
         command->formatter(app.get_formatter());
@@ -213,6 +214,7 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
         options.demo = demo;
     if (scriptCommand->parsed())
         options.script = script;
+    options.verify = verifyCommand->parsed();
     return {options, {}, false};
 }
 

@@ -50,6 +50,7 @@ struct Options {
     std::optional<ConsultOptions> consult;
     std::optional<DemoOptions> demo;
     std::optional<ScriptOptions> script;
+    bool verify = false;
 };
 
 // What is left to do after reading the command line: run, or end with a text already known.

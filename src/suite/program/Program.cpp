@@ -11,6 +11,7 @@
 #include "suite/program/Options.h"
 #include "suite/program/ScriptCommand.h"
 #include "suite/program/UserFolder.h"
+#include "suite/program/VerifyCommand.h"
 #include "suite/script/Headless.h"
 #include "suite/script/TerminalProgress.h"
 
@@ -70,6 +71,8 @@ ExitCode runOnDatabase(const Options& options, Interrupt& interrupt) {
         Interrupt& interrupt;
         ~Detach() { interrupt.onRequest({}); }
     } const detach{interrupt};
+    if (options.verify)
+        return runVerify(connection.attachment());
 
     script::Headless interaction(std::cerr, onTerminal());
     interaction.onCancelQuery = [&] { return interrupt.requested(); };
@@ -101,9 +104,10 @@ std::string versionText() {
 ExitCode runCommand(const Options& options, Interrupt& interrupt) {
     if (options.demo)
         return runDemo(*options.demo, interrupt);
-    if (options.consult || options.script)
+    if (options.consult || options.script || options.verify)
         return runOnDatabase(options, interrupt);
-    std::cerr << "Informe um comando: \"consultar\", \"roteiro\" ou \"demo\". Veja \"orcreal --ajuda\".\n";
+    std::cerr
+        << "Informe um comando: \"consultar\", \"roteiro\", \"verificar\" ou \"demo\". Veja \"orcreal --ajuda\".\n";
     return ExitCode::WrongUse;
 }
 
