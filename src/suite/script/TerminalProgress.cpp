@@ -22,7 +22,7 @@ void TerminalProgress::show(const host::TEventoProgresso& event) {
         if (event.Nivel < innermost_)
             return keep(event.Texto);
         text_ = event.Texto;
-        return draw(text_ + "...");
+        return draw(text_.ends_with('.') ? text_ : text_ + "...");
     case Kind::Maximo:
         if (event.Nivel == innermost_)
             maximum_ = event.Valor;
@@ -45,12 +45,16 @@ void TerminalProgress::show(const std::string& text, std::size_t done, std::size
     draw("[" + std::string(filled, '#') + std::string(BarWidth - filled, '.') + "] " + text);
 }
 
+// Without wrapping: a line over two rows could not be drawn over.
 void TerminalProgress::draw(const std::string& line) {
     if (terminal_)
-        out_ << "\r\033[K" << line << std::flush;
+        out_ << "\r\033[K\033[?7l" << line << "\033[?7h" << std::flush;
 }
 
-void TerminalProgress::keep(const std::string& line) { draw(line + "\n"); }
+void TerminalProgress::keep(const std::string& line) {
+    if (terminal_)
+        out_ << "\r\033[K" << line << std::endl;
+}
 
 void TerminalProgress::clear() { draw(""); }
 
