@@ -76,7 +76,8 @@ class ParameterBlock {
 void setProvider(ParameterBlock& block, const Target& target) {
     if (target.embedded())
         useLockDirectoryBeside(target.file());
-    block.text(isc_dpb_config, target.embedded() ? "Providers=Engine12" : "Providers=Remote");
+    // Without the engine's own collector of old record versions: beside its only user it does nothing but contend.
+    block.text(isc_dpb_config, target.embedded() ? "Providers=Engine12\nGCPolicy=cooperative" : "Providers=Remote");
 }
 
 // What the engine says of a file it cannot read is hardly for users: an absent file and a missing right look alike, and
