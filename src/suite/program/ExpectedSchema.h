@@ -93,8 +93,8 @@ struct ExpectedIndex {
 // Small tables that are read whole anyway have none here, and neither has what no statement was faster with.
 inline constexpr ExpectedIndex ExpectedIndexes[] = {
     {"IX_ORCVLR_LINHA", "CO01_CTBORCADAVLR", "IDCTBORCADAINF | IDDEMACTOT IDPLANO",
-     "é o que decide entre minutos e segundos, porque toda consulta e todo total procuram por ele as linhas de uma "
-     "projeção"},
+     "toda consulta e todo total procuram por ele as linhas de uma projeção; sem conta e totalizador no índice, os "
+     "totais de 20.000 linhas levaram 262 s, e 0,5 s com eles"},
     {"IX_ORCVLR_CHAVE", "CO01_CTBORCADAVLR", "IDCTBORCADAVLR",
      "sem ele, a atualização do realizado lê a tabela inteira para cada linha que grava"},
     {"IX_ORCDIARIO_PLANO_DATA", "CO01_DIARIO", "IDPLANO | DATA",
