@@ -56,7 +56,6 @@ void TGeradorTotalizacoes::GerarProjecao() {
     FDm.IncrementarBarraProgresso(NivelProjecoes, FProgresso);
     auto& LEtapas = FProgresso.BuscarBarraProgresso(NivelEtapas);
     LEtapas.SetTexto("Excluindo totalizações orçamentária " + Periodo());
-    FTransacao = host::ZTConnection().IniciarTransacao();
     ReservarProjecao();
     ExcluirTotalizacoes();
     LEtapas.SetTexto("Gerando totalizações orçamentária " + Periodo());
@@ -70,9 +69,15 @@ void TGeradorTotalizacoes::GerarProjecao() {
 }
 
 void TGeradorTotalizacoes::ReservarProjecao() {
+    constexpr const char* LMensagem =
+        "Não foi possível reservar a projeção para gerar as totalizações; nada foi alterado nela.\r\rErros : ";
+    try {
+        FTransacao = host::ZTConnection().IniciarTransacao();
+    } catch (const host::TFalha& E) {
+        Falhar(LMensagem, E.what());
+    }
     FScript = host::Format(sql::ReservarProjecao, {Projecao()});
-    Executar("ReservarProjecao", "Não foi possível reservar a projeção para gerar as totalizações; nada foi alterado "
-                                 "nela.\r\rErros : ");
+    Executar("ReservarProjecao", LMensagem);
 }
 
 void TGeradorTotalizacoes::ExcluirTotalizacoes() {
@@ -84,8 +89,12 @@ void TGeradorTotalizacoes::ExcluirTotalizacoes() {
 void TGeradorTotalizacoes::ConfirmarProjecao() {
     try {
         host::ZTConnection().FinalizarTransacao(*FTransacao);
-    } catch (const host::TFalha& E) {
-        Falhar("Não foi possível gravar as totalizações da projeção; ela ficou como estava.\r\rErros : ", E.what());
+    } catch (const host::TFalhaBanco& E) {
+        const bool LSemResposta = E.Tipo() == host::TTipoFalhaBanco::Conexao; // the server may have done it
+        Falhar(LSemResposta ? "A conexão se perdeu enquanto as totalizações da projeção eram gravadas; não se sabe se "
+                              "ficaram gravadas. Gere os totais novamente.\r\rErros : "
+                            : "Não foi possível gravar as totalizações da projeção; ela ficou como estava.\r\rErros : ",
+               E.what());
     }
     FTransacao.reset();
 }

@@ -310,8 +310,9 @@ TEST(Servicos, QuemEsperaPorUmBloqueioEsperaPoucoEFicaSabendo) {
     const auto inicio = std::chrono::steady_clock::now();
     const auto resultado = um->ExecutouSQL(minha, true);
     EXPECT_GT(std::chrono::steady_clock::now() - inicio, std::chrono::seconds(5)) << "it waits";
-    EXPECT_EQ("Outro usuário está gravando os mesmos dados. Aguarde um instante e tente novamente.",
-              resultado.Mensagem);
+    EXPECT_TRUE(resultado.Mensagem.starts_with("Outro usuário (") &&
+                resultado.Mensagem.ends_with(") está gravando os mesmos dados. Aguarde um instante e tente novamente."))
+        << resultado.Mensagem;
     EXPECT_EQ("1", TextoDe(Valor(*um, "SELECT CODIGO FROM US09_USUARIO"))) << "a read never waits";
     // Whoever waits for one that ends in time goes on behind it.
     auto depois = std::async(std::launch::async, [&] {

@@ -103,6 +103,8 @@ constexpr Sentence Sentences[] = {
      "Já existe um registro com a mesma chave; nada foi gravado (%s)."},
     {isc_foreign_key, TTipoFalhaBanco::Comando,
      "O registro depende de outro que não existe, ou é usado por outro; nada foi gravado (%s)."},
+    {isc_check_constraint, TTipoFalhaBanco::Comando,
+     "Os valores não atendem a uma regra deste banco de dados (%s); nada foi gravado."},
     {isc_not_valid, TTipoFalhaBanco::Comando, "Falta um valor obrigatório (%s); nada foi gravado."},
     {isc_transliteration_failed, TTipoFalhaBanco::Comando,
      "Há um caractere que o banco de dados não aceita. Troque-o e tente novamente."},
