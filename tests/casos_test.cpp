@@ -143,6 +143,8 @@ class TesteDeCaso : public testing::Test {
         const auto pasta = fs::path(ORCREAL_PASTA_TESTE) / "caso";
         fs::remove_all(pasta);
         fs::create_directories(pasta);
+        for (const char* tela : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) // cases are of the terminal
+            ::unsetenv(tela);
         ::setenv("ORCREAL_SENHA", apoio::credenciais().password.c_str(), 1);
         const auto preencher = [&](const std::string& texto) {
             return trocar(trocar(trocar(texto, "@BANCO@", copia ? copia->alvo() : "-"), "@PASTA@", pasta.string()),

@@ -1,9 +1,9 @@
 // The widgets of a form follow its controls, and what the user does reaches them.
+#include "desktop/Aplicacao.h"
 #include "suite/desktop/FormBinding.h"
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QWidget>
 
 namespace {
@@ -15,10 +15,7 @@ class UmFormulario : public host::TForm {
 };
 
 TEST(Vinculo, UmaVezCadaNome) {
-    int argumentos = 1;
-    char nome[] = "teste";
-    char* valores[] = {nome, nullptr};
-    const QApplication aplicacao(argumentos, valores);
+    aplicacao();
     UmFormulario formulario;
     QWidget janela;
     suite::desktop::FormBinding vinculo(formulario, janela);

@@ -162,6 +162,8 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
         ->check(number(0, LargestCode));
     app.add_option("--pasta-log", options.login.logFolder, "pasta de log do hospedeiro")->type_name("D");
 
+    auto* windowCommand = app.add_subcommand("janela", "abre a janela (também sem nenhum comando)");
+
     auto* consultCommand = app.add_subcommand("consultar", "faz uma consulta e mostra suas linhas");
     addConsultOptions(*consultCommand, consult);
 
@@ -179,7 +181,7 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
         ->required()
         ->check(readable());
     auto* verifyCommand = app.add_subcommand("verificar", "diz se o banco de dados serve, e o que lhe falta");
-    for (auto* command : {consultCommand, demoCommand, scriptCommand, verifyCommand}) {
+    for (auto* command : {windowCommand, consultCommand, demoCommand, scriptCommand, verifyCommand}) {
         command->group("Comandos");
         command->set_help_flag("-h,--help,--ajuda", "mostra esta ajuda")->group("Opções do comando");
         command->formatter(app.get_formatter());

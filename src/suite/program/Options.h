@@ -42,7 +42,7 @@ struct ScriptOptions {
     std::string file; // "-": standard input
 };
 
-// A command line, read. Exactly one of the commands is set, or none for the bare program.
+// A command line, read. One of the commands is set, or none for the window.
 struct Options {
     std::string database; // empty: the demo database
     firebird::Credentials credentials;

@@ -5,6 +5,7 @@
 #include "host/Servicos.h"
 #include "suite/firebird/Connection.h"
 #include "suite/program/ConsultCommand.h"
+#include "suite/program/DesktopCommand.h"
 #include "suite/program/Interrupt.h"
 #include "suite/program/LayoutStore.h"
 #include "suite/program/Module.h"
@@ -106,9 +107,7 @@ ExitCode runCommand(const Options& options, Interrupt& interrupt) {
         return runDemo(*options.demo, interrupt);
     if (options.consult || options.script || options.verify)
         return runOnDatabase(options, interrupt);
-    std::cerr
-        << "Informe um comando: \"consultar\", \"roteiro\", \"verificar\" ou \"demo\". Veja \"orcreal --ajuda\".\n";
-    return ExitCode::WrongUse;
+    return runDesktopCommand(options, versionText(), interrupt);
 }
 
 ExitCode report(const host::TFalhaBanco& failure) {
