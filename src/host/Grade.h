@@ -48,6 +48,7 @@ class HOST_API TGrade : public TControle {
   public:
     TGrade(std::string ANome, TDataSource& AFonte) : TControle(std::move(ANome)), FFonte(AFonte) {}
 
+    TDataSource& Fonte() const { return FFonte; }
     // Null while the data source has none.
     const TDataSet* DataSet() const { return FFonte.DataSet; }
     const std::vector<TColunaGrade>& Colunas() const { return FColunas; }

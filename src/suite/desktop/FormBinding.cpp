@@ -1,5 +1,7 @@
 #include "suite/desktop/FormBinding.h"
 
+#include "suite/desktop/GridPane.h"
+
 #include <QWidget>
 
 namespace suite::desktop {
@@ -7,9 +9,10 @@ namespace suite::desktop {
 FormBinding::FormBinding(host::TForm& form, QWidget& window) : form_(form), window_(window) {}
 
 QWidget* FormBinding::widget(std::string_view name) {
+    auto* grid = dynamic_cast<host::TGrade*>(&form_.Controle(name));
     auto& made = widgets_[form_.Controle(name).Nome()];
     if (!made)
-        made = new QWidget(&window_);
+        made = grid ? new GridPane(*grid, &window_) : new QWidget(&window_);
     return made;
 }
 

@@ -1,5 +1,6 @@
 #include "suite/desktop/MainWindow.h"
 
+#include "suite/desktop/ChartPane.h"
 #include "suite/desktop/EmptyState.h"
 #include "suite/desktop/Failures.h"
 #include "suite/desktop/GridPane.h"
@@ -69,6 +70,16 @@ void MainWindow::follow(host::TControle& control, std::function<void()> update) 
     });
 }
 
+// What the legend says of its colours: a swatch, and the text of the label behind it.
+std::map<host::TCor, QString> MainWindow::meaningsOf(const std::vector<std::string>& labels) const {
+    std::map<host::TCor, QString> meanings;
+    for (std::size_t i = 0; i + 1 < labels.size(); ++i)
+        if (const auto* swatch = dynamic_cast<const host::TLabelColorido*>(&form_.Controle(labels[i]));
+            swatch && swatch->Fundo())
+            meanings[*swatch->Fundo()] = fromMessage(form_.Controle(labels[i + 1]).Caption());
+    return meanings;
+}
+
 void MainWindow::makeBody() {
     auto* body = new QWidget(this);
     auto* column = new QVBoxLayout(body);
@@ -104,6 +115,7 @@ void MainWindow::makeBody() {
         stack->addWidget(grid, 1);
         view.pane = qobject_cast<GridPane*>(grid);
         if (view.pane) {
+            view.pane->setColourMeanings(meaningsOf(view.labels));
             if (auto* layouts = dynamic_cast<host::TZTDbGridDevLeiaute*>(&form_.Controle(view.layouts)))
                 view.pane->setLayouts(*layouts);
             connect(view.pane, &GridPane::linesChanged, this, [this] { showRows(); });
@@ -120,6 +132,8 @@ void MainWindow::makeBody() {
     }
     empty_ = new EmptyState(*select_, grids);
     stack->addWidget(empty_, 1);
+    chart_ = new ChartPane(splitter_);
+    setSidePane(chart_);
     setCentralWidget(body);
 }
 
@@ -172,10 +186,11 @@ GridPane* MainWindow::paneInView() const {
 }
 
 void MainWindow::refresh() {
-    if (!rows_ || !empty_)
+    if (!rows_ || !chart_)
         return;
     empty_->setVisible(!form_.GradeEmVista());
     empty_->setSelected(selected_);
+    chart_->setPane(paneInView());
     showRows();
 }
 

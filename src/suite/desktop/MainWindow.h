@@ -16,6 +16,7 @@ class QToolButton;
 
 namespace suite::desktop {
 
+class ChartPane;
 class EmptyState;
 class GridPane;
 
@@ -47,8 +48,6 @@ class MainWindow : public QMainWindow {
     void fail(const std::exception& failure);
     // Shows the window until it is closed.
     End run();
-    // Beside the grid, hidden until it is shown. The window owns it.
-    void setSidePane(QWidget* pane);
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -62,7 +61,10 @@ class MainWindow : public QMainWindow {
         GridPane* pane = nullptr;
     };
 
+    std::map<host::TCor, QString> meaningsOf(const std::vector<std::string>& labels) const;
     void makeBody();
+    // Beside the grid, hidden until it is shown.
+    void setSidePane(QWidget* pane);
     void makeStatus();
     void makeActions();
     void makeToolBar();
@@ -88,6 +90,7 @@ class MainWindow : public QMainWindow {
     std::vector<View> views_;
     QSplitter* splitter_ = nullptr;
     EmptyState* empty_ = nullptr;
+    ChartPane* chart_ = nullptr;
     ResultExport* export_ = nullptr;
     QAction *select_ = nullptr, *repeat_ = nullptr, *actual_ = nullptr, *print_ = nullptr, *printGrid_ = nullptr,
             *printReport_ = nullptr, *exportButton_ = nullptr, *side_ = nullptr;

@@ -154,7 +154,7 @@ void MainWindow::makeMenus() {
     looks_ = new QActionGroup(this);
     side_ = new QAction(QStringLiteral("&Gráfico ao lado"), this);
     side_->setCheckable(true);
-    side_->setShortcut(keys("Ctrl+G"));
+    side_->setShortcut(keys("Ctrl+Shift+G"));
     side_->setVisible(false);
     connect(view_, &QMenu::aboutToShow, this, [this] { fillViewMenu(); });
     fillViewMenu();

@@ -1,0 +1,135 @@
+#include "suite/desktop/ChartPane.h"
+
+#include "host/Falhas.h"
+#include "suite/desktop/ChartPainter.h"
+#include "suite/desktop/GridPane.h"
+#include "suite/desktop/Text.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPushButton>
+
+namespace suite::desktop {
+
+namespace {
+
+constexpr QSize PictureSize(1200, 800);
+
+QPalette paperPalette() {
+    QPalette palette;
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    palette.setColor(QPalette::Midlight, QColor(0xD0D0D0));
+    return palette;
+}
+
+} // namespace
+
+class ChartPane::Canvas : public QWidget {
+  public:
+    explicit Canvas(ChartPane& owner) : QWidget(&owner), owner_(owner) {
+        setMinimumSize(240, 200);
+        setAccessibleName("Gráfico");
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        paintChart(painter, rect(), owner_.data_, palette());
+    }
+
+  private:
+    ChartPane& owner_;
+};
+
+ChartPane::ChartPane(QWidget* parent)
+    : QWidget(parent), canvas_(new Canvas(*this)), save_(new QPushButton("Salvar &imagem...", this)),
+      copy_(new QPushButton("&Copiar imagem", this)) {
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(canvas_, 1);
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    row->addWidget(copy_);
+    row->addWidget(save_);
+    column->addLayout(row);
+    connect(save_, &QPushButton::clicked, this, &ChartPane::askAndSave);
+    connect(copy_, &QPushButton::clicked, this, &ChartPane::copy);
+    update();
+}
+
+void ChartPane::setPane(GridPane* pane) {
+    if (pane_)
+        pane_->disconnect(this);
+    pane_ = pane;
+    if (pane_) {
+        connect(pane_, &GridPane::linesChanged, this, &ChartPane::update);
+        connect(pane_, &GridPane::currentLineChanged, this, &ChartPane::update);
+    }
+    update();
+}
+
+void ChartPane::update() {
+    data_ = pane_ ? chartOf(pane_->grid(), pane_->lines(), pane_->currentLine())
+                  : ChartData{"Não há linhas para o gráfico.", {}, false};
+    canvas_->setAccessibleDescription(data_.title);
+    save_->setEnabled(!data_.categories.empty());
+    copy_->setEnabled(save_->isEnabled());
+    canvas_->update();
+}
+
+void ChartPane::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), palette().color(QPalette::Window)); }
+
+void ChartPane::save(const QString& file) const {
+    const auto refuse = [&] {
+        throw host::TFalha(
+            "Não foi possível gravar o gráfico em " + toUtf8(file) +
+            ". Verifique a pasta, a permissão e o espaço em disco; o nome deve terminar em .png ou .pdf.");
+    };
+    if (file.endsWith(".pdf", Qt::CaseInsensitive)) {
+        QPdfWriter writer(file);
+        writer.setPageSize(QPageSize(QPageSize::A4));
+        writer.setPageOrientation(QPageLayout::Landscape);
+        writer.setResolution(96);
+        QPainter painter;
+        if (!painter.begin(&writer))
+            refuse();
+        paintChart(painter, QRectF(0, 0, writer.width(), writer.height()), data_, paperPalette());
+        if (!painter.end())
+            refuse();
+        return;
+    }
+    QImage picture(PictureSize, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    paintChart(painter, picture.rect(), data_, paperPalette());
+    painter.end();
+    if (!picture.save(file, file.endsWith(".png", Qt::CaseInsensitive) ? "PNG" : nullptr))
+        refuse();
+}
+
+void ChartPane::askAndSave() {
+    const auto file = QFileDialog::getSaveFileName(window(), "Salvar gráfico", "grafico.png",
+                                                   "Imagem (*.png);;Documento PDF (*.pdf)");
+    if (file.isEmpty())
+        return;
+    try {
+        save(file);
+    } catch (const host::TFalha& failure) {
+        QMessageBox::warning(window(), "Salvar gráfico", fromUtf8(failure.what()));
+    }
+}
+
+void ChartPane::copy() {
+    QImage picture(PictureSize, QImage::Format_RGB32);
+    QPainter painter(&picture);
+    paintChart(painter, picture.rect(), data_, paperPalette());
+    painter.end();
+    QApplication::clipboard()->setImage(picture);
+}
+
+} // namespace suite::desktop

@@ -1,0 +1,265 @@
+// What a grid shows of a dataset, before any window: order, groups, sums, filter, colours.
+#include "desktop/GradeApoio.h"
+#include "suite/desktop/CellColours.h"
+#include "suite/desktop/ColumnMatcher.h"
+#include "suite/desktop/GridModel.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using desktop::Dados;
+using desktop::numero;
+using desktop::texto;
+using suite::desktop::ColumnMatcher;
+using suite::desktop::GridRows;
+using suite::desktop::NoSum;
+
+namespace {
+
+using Posicoes = std::vector<std::uint32_t>;
+
+host::TValor d(std::int64_t unidades, int escala = 2) { return host::TDecimal{unidades, escala}; }
+host::TValor t(const char* valor) { return std::string(valor); }
+
+// NOME, VALOR, FILIAL, CTATITULO; then what a test adds.
+struct Conjunto {
+    Dados dados{"Cds"};
+    GridRows linhas;
+
+    Conjunto(std::vector<host::TDescricaoColuna> outras, std::vector<Dados::Linha> valores) {
+        dados.colunas = {texto("NOME"), numero("VALOR", 2), numero("FILIAL"), numero("CTATITULO")};
+        dados.colunas.insert(dados.colunas.end(), outras.begin(), outras.end());
+        dados.deLinhas(std::move(valores));
+        dados.Open();
+        linhas.load(&dados);
+    }
+    Posicoes ordem(std::vector<GridRows::Sort> sorts, std::vector<std::size_t> groups = {},
+                   std::vector<std::size_t> identification = {}) {
+        linhas.arrange({std::move(groups), std::move(sorts), {1}, std::move(identification), {}});
+        return linhas.lines();
+    }
+    // "G0" for a group and its level, a number for a line.
+    std::string aVista() const {
+        std::string lista;
+        for (std::size_t i = 0; i < linhas.size(); ++i)
+            lista +=
+                (i == 0 ? "" : " ") + (linhas.isGroup(i) ? "G" + std::to_string(linhas.group(linhas.groupAt(i)).level)
+                                                         : std::to_string(linhas.position(i)));
+        return lista;
+    }
+    std::string soma(std::size_t conjunto) const {
+        const auto valor = linhas.sums().sum(conjunto, 1);
+        return valor ? valor->Texto() : "nenhuma";
+    }
+};
+
+Dados::Linha linha(host::TValor nome, host::TValor valor, int filial = 1, int titulo = 2) {
+    return {std::move(nome), std::move(valor), host::Inteiro(filial), host::Inteiro(titulo)};
+}
+
+TEST(GradeLinhas, NumeroVaiPeloValorETextoPelaLinguaComNuloPrimeiro) {
+    Conjunto c({}, {linha(t("Zinco"), d(900)), linha(t("água"), d(-1000)), linha(host::Nulo, d(10000)),
+                    linha(t("Abacate"), host::Nulo), linha(t("azul"), d(900)), linha(t("Água"), d(0))});
+    EXPECT_EQ((Posicoes{3, 1, 5, 0, 4, 2}), c.ordem({{1, false}})) << "and what is equal stays in order";
+    EXPECT_EQ((Posicoes{2, 0, 4, 5, 1, 3}), c.ordem({{1, true}}));
+    EXPECT_EQ((Posicoes{2, 3, 1, 5, 4, 0}), c.ordem({{0, false}}));
+    EXPECT_EQ((Posicoes{3, 1, 5, 4, 0, 2}), c.ordem({{1, false}, {0, false}}));
+    EXPECT_EQ((Posicoes{0, 1, 2, 3, 4, 5}), c.ordem({}));
+    c.dados.Close();
+    c.linhas.load(&c.dados);
+    EXPECT_EQ(Posicoes{}, c.ordem({{0, false}}));
+    EXPECT_EQ(0U, c.linhas.size());
+}
+
+TEST(GradeLinhas, GruposAbremFechamEContinuamComoFicaram) {
+    Conjunto c({}, {linha(t("b"), d(1), 10), linha(t("a"), d(2), 9), linha(t("b"), d(4), 9), linha(t("a"), d(8), 10),
+                    linha(t("a"), d(16), 9)});
+    EXPECT_EQ((Posicoes{1, 2, 4, 0, 3}), c.ordem({}, {2})) << "9 before 10, the dataset's order inside";
+    EXPECT_EQ("G0 1 2 4 G0 0 3", c.aVista());
+    EXPECT_EQ("0.22 0.09 0.31", c.soma(0) + " " + c.soma(1) + " " + c.soma(c.linhas.totalSet()));
+    c.ordem({}, {2, 0});
+    EXPECT_EQ("G0 G1 1 4 G1 2 G0 G1 3 G1 0", c.aVista());
+    EXPECT_EQ("0.18", c.soma(1)) << "establishment 9, a";
+    EXPECT_EQ("0.22", c.soma(0));
+    c.linhas.toggle(0);
+    EXPECT_EQ("G0 G0 G1 3 G1 0", c.aVista());
+    EXPECT_EQ((Posicoes{4, 1, 2, 3, 0}), c.ordem({{1, true}}, {2, 0})) << "closed lines are lines too";
+    EXPECT_EQ("G0 G0 G1 3 G1 0", c.aVista());
+    EXPECT_EQ(1U, c.linhas.find(1).has_value() ? 0U : 1U);
+    EXPECT_EQ(3U, c.linhas.reveal(1).value_or(99));
+    EXPECT_EQ("G0 G1 4 1 G1 2 G0 G1 3 G1 0", c.aVista());
+    c.linhas.openAll(false);
+    EXPECT_EQ("G0 G0", c.aVista());
+    c.ordem({}, {0});
+    EXPECT_EQ("G0 G0", c.aVista()) << "another grouping starts as all were left";
+    c.linhas.openAll(true);
+    EXPECT_EQ("G0 1 3 4 G0 0 2", c.aVista());
+}
+
+TEST(GradeLinhas, SomaEhExataENaoContaTitulo) {
+    std::vector<Dados::Linha> valores{linha(t("título"), d(9'999'999'999), 1, 1)};
+    for (int i = 0; i < 1000; ++i)
+        valores.push_back(linha(t("x"), i % 2 == 0 ? d(9'007'199'254'740'993) : d(-9'007'199'254'740'990)));
+    valores.push_back(linha(t("nulo"), host::Nulo));
+    Conjunto c({}, valores);
+    c.ordem({});
+    EXPECT_EQ("15.00", c.soma(c.linhas.totalSet()));
+    EXPECT_TRUE(c.linhas.sums().onlyAnalytic());
+    EXPECT_FALSE(c.linhas.sums().sum(c.linhas.totalSet(), 2)) << "an establishment is no amount";
+
+    const auto maximo = std::numeric_limits<std::int64_t>::max();
+    Conjunto grande({}, {linha(t("a"), d(maximo)), linha(t("a"), d(1)), linha(t("b"), d(3))});
+    grande.ordem({}, {0});
+    EXPECT_EQ("nenhuma", grande.soma(0));
+    EXPECT_EQ("0.03", grande.soma(1));
+    EXPECT_EQ(NoSum::TooLarge, grande.linhas.sums().reason(grande.linhas.totalSet(), 1)) << "a part of it is";
+}
+
+TEST(GradeLinhas, NadaEhContadoDuasVezes) {
+    const auto linhaDe = [](int filial, int tipo, host::TValor conta) {
+        return Dados::Linha{t("x"), d(100), host::Inteiro(filial), host::Inteiro(2), host::Inteiro(tipo), conta};
+    };
+    const auto conta = host::Inteiro(7);
+    Conjunto c({numero("TIPOLINHA"), numero("IDPLANO")},
+               {linhaDe(1, 1, conta), linhaDe(1, 2, conta), linhaDe(2, 3, conta), linhaDe(2, 3, conta),
+                linhaDe(3, 3, conta), linhaDe(3, 3, host::Nulo)});
+    c.ordem({}, {2});
+    EXPECT_EQ("nenhuma", c.soma(0)) << "base and budget";
+    EXPECT_EQ("2.00", c.soma(1)) << "actual values alone";
+    EXPECT_EQ("nenhuma", c.soma(2)) << "a totalizer beside its account";
+    EXPECT_EQ(NoSum::LineTypes, c.linhas.sums().reason(0, 1));
+    EXPECT_EQ(NoSum::Totalizers, c.linhas.sums().reason(2, 1));
+    EXPECT_EQ(NoSum::Totalizers, c.linhas.sums().reason(c.linhas.totalSet(), 1));
+    c.linhas.arrange({{}, {}, {1}, {}, [](std::size_t posicao) { return posicao == 1; }});
+    EXPECT_EQ("1.00", c.soma(c.linhas.totalSet())) << "one type alone in view";
+    c.linhas.arrange({{2}, {}, {1}, {}, [](std::size_t posicao) { return posicao == 0 || posicao == 2; }});
+    EXPECT_EQ("nenhuma", c.soma(c.linhas.totalSet())) << "groups of one type each, of two together";
+}
+
+TEST(GradeLinhas, LinhasDeUmaContaFicamJuntas) {
+    const auto de = [](const char* nome, int valor, int tipo) {
+        return Dados::Linha{t(nome), d(valor), host::Inteiro(1), host::Inteiro(2), host::Inteiro(tipo)};
+    };
+    Conjunto c({numero("TIPOLINHA")}, {de("a", 5, 1), de("a", 1, 2), de("a", 9, 3), de("b", 3, 1), de("b", 8, 3),
+                                       de("b", 2, 1), de("b", 7, 2)});
+    EXPECT_EQ((Posicoes{5, 6, 3, 4, 0, 1, 2}), c.ordem({{1, false}}, {}, {0})) << "two blocks of the same name";
+    EXPECT_EQ((Posicoes{0, 1, 2, 3, 4, 5, 6}), c.ordem({{1, true}}, {}, {0}));
+    EXPECT_EQ(3U, c.linhas.blockOf(4));
+    EXPECT_EQ(5U, c.linhas.blockOf(5));
+    EXPECT_EQ((Posicoes{1, 5, 3, 0, 6, 4, 2}), c.ordem({{1, false}})) << "without identification each goes alone";
+    c.linhas.arrange({{}, {{1, false}}, {1}, {0}, [](std::size_t posicao) { return posicao % 2 == 0; }});
+    EXPECT_EQ((Posicoes{0, 2, 6, 4}), c.linhas.lines()) << "by the first line that is kept";
+}
+
+TEST(GradeFiltro, EncontraOQueSeDigita) {
+    Conjunto c({}, {linha(t("Água e Esgoto"), d(123456)), linha(t("agua"), d(-1000)), linha(host::Nulo, host::Nulo),
+                    linha(t("Férias [13º]"), d(1005)), linha(t("=x"), d(0))});
+    const struct {
+        std::size_t coluna;
+        const char* digitado;
+        Posicoes achadas;
+    } casos[] = {
+        {0, "  ", {0, 1, 2, 3, 4}},
+        {0, "AGUA", {0, 1}},
+        {0, "ESGÓ", {0}},
+        {0, "=água", {1}},
+        {0, "13º]", {3}},
+        {0, ">a", {}},
+        {1, "1234,5", {0}},
+        {1, "1.234", {0}},
+        {1, "1234.56", {}},
+        {1, "10,0", {1, 3}},
+        {1, "-10", {1}},
+        {1, ">10", {0, 3}},
+        {1, ">=10,05", {0, 3}},
+        {1, "<0", {1}},
+        {1, "<= 0", {1, 4}},
+        {1, "=0", {4}},
+        {1, "<>0", {0, 1, 2, 3}},
+        {1, "10..20", {3}},
+        {1, "-10,00..0", {1, 4}},
+        {1, "..0", {1, 4}},
+        {1, "10.05..", {0, 3}},
+        {1, ">1.000", {0}},
+        {1, ">", {0, 1, 2, 3, 4}},
+        {1, "abc", {}},
+        {1, "> nada", {0, 1, 2, 3, 4}},
+    };
+    for (const auto& caso : casos) {
+        const auto& coluna = c.dados.Colunas()[caso.coluna];
+        const ColumnMatcher casa(coluna, caso.coluna == 1 ? ",0.00" : "", QString::fromUtf8(caso.digitado));
+        Posicoes achadas;
+        for (std::uint32_t i = 0; i < 5; ++i)
+            if (casa(i))
+                achadas.push_back(i);
+        EXPECT_EQ(caso.achadas, achadas) << caso.digitado;
+    }
+    const ColumnMatcher busca(c.dados.Colunas()[0], "", QStringLiteral("=x"), true);
+    EXPECT_TRUE(busca(4)) << "the quick search takes signs as they are";
+}
+
+TEST(GradeFiltro, NumeroEhComparadoComoSeVe) {
+    Conjunto c({}, {linha(t("a"), d(1004)), linha(t("b"), d(1006))});
+    const auto& coluna = c.dados.Colunas()[1];
+    const ColumnMatcher igual(coluna, ",0.0", QStringLiteral("=10"));
+    EXPECT_TRUE(igual(0)) << "10,04 is shown as 10,0";
+    EXPECT_FALSE(igual(1));
+    const ColumnMatcher parte(coluna, ",0.0", QStringLiteral("10,1"));
+    EXPECT_FALSE(parte(0));
+    EXPECT_TRUE(parte(1)) << "10,06 is shown as 10,1";
+    const struct {
+        const char* digitado;
+        const char* lido;
+    } casos[] = {{"1.234", "1234"},
+                 {"12.5", "12.5"},
+                 {"1.234,50", "1234.50"},
+                 {"-0,5", "-0.5"},
+                 {"1.234.567", "1234567"},
+                 {"1,2,3", ""},
+                 {"", ""},
+                 {"dez", ""}};
+    for (const auto& caso : casos) {
+        const auto lido = suite::desktop::typedNumber(QString::fromUtf8(caso.digitado));
+        EXPECT_EQ(caso.lido, lido ? lido->Texto() : "") << caso.digitado;
+    }
+}
+
+TEST(GradeCores, TodaCorSeLeEmQualquerPaleta) {
+    namespace cores = pct04618::cores;
+    const auto paleta = [](QColor base, QColor texto) {
+        QPalette p;
+        p.setColor(QPalette::Base, base);
+        p.setColor(QPalette::Text, texto);
+        return p;
+    };
+    EXPECT_NEAR(21, suite::desktop::contrast(Qt::black, Qt::white), 0.01);
+    EXPECT_NEAR(21, suite::desktop::contrast(Qt::white, Qt::black), 0.01);
+    const QPalette paletas[] = {paleta(Qt::white, Qt::black), paleta(QColor(0x1B1E20), QColor(0xFCFCFC)),
+                                paleta(Qt::black, Qt::yellow), paleta(QColor(0x808080), Qt::white)};
+    for (const auto& p : paletas) {
+        std::set<QRgb> fontes;
+        for (const auto fonte : {cores::Vermelho, cores::Azul, cores::Roxo, cores::VerdeAzulado, cores::Preto})
+            for (const std::optional<host::TCor> fundo :
+                 {std::optional<host::TCor>(), std::optional(cores::AzulForte), std::optional(cores::AzulClaro),
+                  std::optional(cores::VerdeClaro)}) {
+                host::TAparencia aparencia;
+                aparencia.Fonte = fonte;
+                aparencia.Fundo = fundo;
+                const auto vistas = suite::desktop::coloursOf(aparencia, p);
+                EXPECT_GE(suite::desktop::contrast(vistas.text, vistas.ground), 4.5);
+                if (!fundo)
+                    fontes.insert(vistas.text.rgb());
+            }
+        if (&p != &paletas[3]) { // on middle grey there is room for black and white alone
+            EXPECT_EQ(5U, fontes.size()) << "and they stay different";
+        }
+    }
+    const auto claras = suite::desktop::coloursOf({false, cores::Roxo, cores::AzulClaro, false}, paletas[0]);
+    EXPECT_EQ(QColor(0x800080), claras.text) << "on paper they are what the rule says";
+    EXPECT_EQ(QColor(0xD8E4F8), claras.ground);
+    EXPECT_EQ(QColor(0xFCFCFC), suite::desktop::coloursOf({false, cores::Preto, {}, false}, paletas[1]).text)
+        << "black is the palette's own";
+}
+
+} // namespace
