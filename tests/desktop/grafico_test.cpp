@@ -35,7 +35,7 @@ TEST(Grafico, PeriodosDaLinhaEscolhida) {
     base.encher(4, 2);
     // Position 4 is the budget line of the second account; its base line stands before it, its actual one behind.
     const auto grafico = chartOf(base.grade, todas(base.grade), 4);
-    EXPECT_EQ(grafico.title.toStdString(), "3.01.101 Despesas com pessoal (filial 1)");
+    EXPECT_EQ(grafico.title.toStdString(), "Despesas com pessoal · filial 1");
     ASSERT_EQ(grafico.categories.size(), 2U);
     EXPECT_EQ(valores(grafico.categories[0]), "Jan/2024: Base 301.01 Orçado 302.01 Realizado 303.01");
     EXPECT_EQ(valores(grafico.categories[1]), "Fev/2024: Base 301.02 Orçado 302.02 Realizado 303.02");
@@ -60,9 +60,9 @@ TEST(Grafico, MaioresVariacoesDasContasAnaliticasDoFiltro) {
     };
     using Lista = std::vector<std::string>;
     EXPECT_EQ(nomes(chartOf(base.grade, todas(base.grade), {})),
-              (Lista{"4.1 Energia: Pior que o orçado 80.000000", "3.1 Vendas (filial 1): Melhor que o orçado 50.000000",
-                     "4.3 Água: Melhor que o orçado -10.000000"}));
-    EXPECT_EQ(nomes(chartOf(base.grade, {0, 4, 3}, {})), Lista{"4.3 Água: Melhor que o orçado -10.000000"});
+              (Lista{"Energia: Pior que o orçado 80.000000", "Vendas · filial 1: Melhor que o orçado 50.000000",
+                     "Água: Melhor que o orçado -10.000000"}));
+    EXPECT_EQ(nomes(chartOf(base.grade, {0, 4, 3}, {})), Lista{"Água: Melhor que o orçado -10.000000"});
 }
 
 TEST(Grafico, EixoENumeros) {

@@ -4,6 +4,8 @@
 #include "suite/desktop/DesktopInteraction.h"
 #include "suite/desktop/DialogWindow.h"
 #include "suite/desktop/Failures.h"
+#include "suite/desktop/GridPane.h"
+#include "suite/desktop/GridView.h"
 #include "suite/desktop/MainWindow.h"
 #include "suite/desktop/MessageDialog.h"
 #include "suite/desktop/StartDialog.h"
@@ -111,6 +113,11 @@ void consultar(desktop::MainWindow& janela, Usuario& usuario, const char* modo) 
     usuario.preencher = {};
 }
 
+void escolherLinha(desktop::MainWindow& janela, int linha) {
+    auto& vista = janela.paneInView()->view();
+    vista.setCurrentIndex(vista.model()->index(linha, 0));
+}
+
 void inicio() {
     desktop::DatabaseChoice escolha;
     desktop::StartDialog primeiro(escolha, false);
@@ -129,8 +136,8 @@ void mensagens(desktop::DesktopInteraction& interacao, desktop::MainWindow& jane
     fotografarModal("pergunta", [&] {
         interacao.Mensagem({host::TNivelMensagem::Confirmacao,
                             "Confirmação:",
-                            "Já existem totais gerados para as projeções selecionadas.\r\rDeseja consultar os totais "
-                            "como estão, ou atualizá-los antes?",
+                            "Já existem projeções geradas para os totalizadores do relatório.\r\rDeseja somente "
+                            "consultar ou reatualizar e consultar as projeções \rpara os totalizadores?",
                             {"Consultar", "Reatualizar", "Cancelar"},
                             6});
     });
@@ -186,8 +193,16 @@ void janelas(const std::string& banco) {
     fotografar(janela, "janela-inicio");
     consultar(janela, usuario, "1");
     fotografar(janela, "janela-agrupando-periodos");
+    auto* grafico = janela.findChild<QAction*>(QStringLiteral("grafico"));
+    grafico->trigger();
+    fotografar(janela, "janela-maiores-variacoes");
+    grafico->trigger();
     consultar(janela, usuario, "3");
     fotografar(janela, "janela-periodos-em-colunas");
+    grafico->trigger();
+    escolherLinha(janela, 4);
+    fotografar(janela, "janela-grafico-da-linha");
+    grafico->trigger();
     for (const auto look : {Look::Light, Look::Dark, Look::Contrast}) {
         desktop::apply(look);
         const auto nome = "janela-" + desktop::nameOf(look).toStdString();

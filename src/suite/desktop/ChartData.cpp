@@ -42,11 +42,12 @@ class Rows {
                std::all_of(grid_.Colunas().begin(), grid_.Colunas().end(),
                            [&](const auto& column) { return !column.Identificacao || same(column.Campo); });
     }
-    // "3.1.01 Venda de produtos", and the establishment where the line has one.
+    // "Venda de produtos · filial 1 · centro 201".
     QString nameOf(std::size_t position) const {
-        auto name = (text(position, "CLASSIFCONTAB") + " " + text(position, "NOMECONTA")).trimmed();
-        if (const auto establishment = text(position, "FILIAL"); !establishment.isEmpty() && establishment != "0")
-            name += " (filial " + establishment + ")";
+        auto name = text(position, "NOMECONTA");
+        for (const auto& [field, caption] : {std::pair{"FILIAL", " · filial "}, {"CCUSTO", " · centro "}})
+            if (const auto code = text(position, field); !code.isEmpty() && code != "0")
+                name += QString::fromUtf8(caption) + code;
         return name;
     }
 

@@ -15,6 +15,7 @@ namespace suite::desktop {
 namespace {
 
 constexpr double Space = 8;
+constexpr int ShortName = 3; // of a month, where the names do not fit
 
 // For positions on a screen alone; every figure that is read comes from the exact value.
 double sizeOf(const host::TDecimal& value) {
@@ -129,6 +130,9 @@ class Chart {
                               Qt::AlignRight | Qt::AlignVCenter, shortNumber(mark));
         }
         const double width = plot.width() / static_cast<double>(data_.categories.size());
+        const bool roomy = std::all_of(data_.categories.begin(), data_.categories.end(), [&](const auto& category) {
+            return metrics_.horizontalAdvance(category.name) + 2 <= width;
+        });
         double left = plot.left();
         for (const auto& category : data_.categories) {
             const double each = width * 0.8 / std::max<double>(1, static_cast<double>(category.values.size()));
@@ -141,7 +145,7 @@ class Chart {
             }
             painter_.setPen(text());
             painter_.drawText(QRectF(left, plot.bottom() + Space / 2, width, lineHeight()), Qt::AlignCenter,
-                              metrics_.elidedText(category.name, Qt::ElideRight, width));
+                              roomy ? category.name : category.name.left(ShortName));
             left += width;
         }
     }

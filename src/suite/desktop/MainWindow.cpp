@@ -170,8 +170,9 @@ void MainWindow::makeStatus() {
 
 void MainWindow::setSidePane(QWidget* pane) {
     splitter_->addWidget(pane);
-    splitter_->setStretchFactor(0, 3);
-    splitter_->setStretchFactor(1, 1);
+    splitter_->setStretchFactor(0, 1);
+    splitter_->setStretchFactor(1, 0);
+    splitter_->setSizes({width(), pane->sizeHint().width()});
     pane->hide();
     side_->setVisible(true);
     connect(side_, &QAction::toggled, pane, &QWidget::setVisible);

@@ -153,6 +153,7 @@ void MainWindow::makeMenus() {
     view_ = menuBar()->addMenu(QStringLiteral("&Exibir"));
     looks_ = new QActionGroup(this);
     side_ = new QAction(QStringLiteral("&Gráfico ao lado"), this);
+    side_->setObjectName(QStringLiteral("grafico"));
     side_->setCheckable(true);
     side_->setShortcut(keys("Ctrl+Shift+G"));
     side_->setVisible(false);
