@@ -33,7 +33,7 @@ QPalette paperPalette() {
 class ChartPane::Canvas : public QWidget {
   public:
     explicit Canvas(ChartPane& owner) : QWidget(&owner), owner_(owner) {
-        setMinimumSize(240, 200);
+        setMinimumSize(370, 200);
         setAccessibleName("Gráfico");
     }
 

@@ -208,7 +208,7 @@ void MainWindow::showKeys() {
     content.text = QStringLiteral("Ctrl+N ou F2\tSelecionar\n"
                                   "F5\tRepetir a consulta\n"
                                   "Ctrl+E\tExportar para planilha\n"
-                                  "Ctrl+Shift+C\tCopiar tudo, com títulos\n"
+                                  "Ctrl+Alt+C\tCopiar tudo, com títulos\n"
                                   "Ctrl+O\tAbrir outro banco de dados\n"
                                   "F11\tTela cheia; num campo de pesquisa, pesquisar\n"
                                   "Esc\tSair do diálogo\n"

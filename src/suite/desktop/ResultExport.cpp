@@ -64,7 +64,7 @@ ResultExport::ResultExport(ExportFunction write, std::vector<ExportFormat> forma
     menu_->addSeparator();
     auto* clipboard = menu_->addAction(QStringLiteral("Área de &transferência"));
     clipboard->setObjectName(QStringLiteral("exportarTransferencia"));
-    clipboard->setShortcut(QKeySequence(QStringLiteral("Ctrl+Shift+C")));
+    clipboard->setShortcut(QKeySequence(QStringLiteral("Ctrl+Alt+C")));
     connect(clipboard, &QAction::triggered, this, [this] { attempt([this] { toClipboard(); }); });
 }
 
