@@ -42,12 +42,14 @@ TDataSet& TForm::DataSet(std::string_view ANome) const {
     NaoExiste(FNome, ANome, FFontes, [](const TDataSource& F) { return F.DataSet ? F.DataSet->Nome() : F.Nome(); });
 }
 
-void TForm::SairDe(TControle& AControle) {
+bool TForm::SairDe(TControle& AControle) {
     try {
         ValidarCampos(&AControle);
         if (AControle.OnExit)
             AControle.OnExit();
+        return true;
     } catch (const Abort&) { // the rule has told the user
+        return false;
     }
 }
 
@@ -58,11 +60,11 @@ void TForm::Executar(TAction& AAcao) {
     }
 }
 
-void TForm::Teclar(TControle& AControle, TTecla ATecla) {
+bool TForm::Teclar(TControle& AControle, TTecla ATecla) {
     try {
-        if (!AControle.OnKeyDown || !AControle.OnKeyDown(ATecla))
-            FormKeyDown(ATecla);
+        return (AControle.OnKeyDown && AControle.OnKeyDown(ATecla)) || FormKeyDown(ATecla);
     } catch (const Abort&) { // the rule has told the user
+        return true;
     }
 }
 
@@ -92,9 +94,10 @@ int TFormZTTandorPadraoResult::ShowModal() {
     return FModalResult;
 }
 
-void TFormZTTandorPadraoResult::FormKeyDown(TTecla ATecla) {
+bool TFormZTTandorPadraoResult::FormKeyDown(TTecla ATecla) {
     if (ATecla == TTecla::Esc)
         ActSair.Execute();
+    return ATecla == TTecla::Esc;
 }
 
 void TFormZTTandorPadraoResult::Fechar(int AResultado) {

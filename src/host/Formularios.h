@@ -44,17 +44,18 @@ class HOST_API TForm {
     TDataSet& DataSet(std::string_view ANome) const; // by the dataset's own name, through the data sources
 
     // What the user does. An Abort of a rule ends here, its message having been shown; other failures pass.
-    // Leaving validates the control and then runs its exit event.
-    void SairDe(TControle& AControle);
+    // Leaving validates the control and then runs its exit event; false when a rule has refused it.
+    bool SairDe(TControle& AControle);
     void Executar(TAction& AAcao);
-    // A key in a control: the control's rule first, then, unless that consumed it, the form's.
-    void Teclar(TControle& AControle, TTecla ATecla);
+    // A key in a control: the control's rule first, then, unless that consumed it, the form's. True when one of them
+    // has consumed it.
+    bool Teclar(TControle& AControle, TTecla ATecla);
 
     virtual void InitializeForm() {}
     // With a control: what leaving it requires. With none: everything, for the commit.
     virtual void ValidarCampos(TControle* /*ASender*/) {}
     virtual void Imprimir() {}
-    virtual void FormKeyDown(TTecla /*ATecla*/) {}
+    virtual bool FormKeyDown(TTecla /*ATecla*/) { return false; } // true when consumed
 
   protected:
     // Members of the form, registered by its constructor in the order of the form.
@@ -123,7 +124,7 @@ class HOST_API TFormZTTandorPadraoResult : public TForm {
     int ModalResult() const { return FModalResult; } // 0 while it is open
 
     virtual void FormShow() {}
-    void FormKeyDown(TTecla ATecla) override; // Esc leaves by ActSair
+    bool FormKeyDown(TTecla ATecla) override; // Esc leaves by ActSair
     virtual void ActOKExecute(TControle* ASender) = 0;
     virtual void ActSairExecute() { Fechar(ResultadoSair); }
 

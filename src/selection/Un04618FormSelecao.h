@@ -22,7 +22,7 @@ class TForm04618Selecao final : public host::TFormZTTandorPadraoResult {
                               std::int32_t AVisualizacao, std::int32_t ADetalhar, std::int32_t ACenario);
 
     void FormShow() override;
-    void FormKeyDown(host::TTecla ATecla) override;
+    bool FormKeyDown(host::TTecla ATecla) override;
     void ValidarCampos(host::TControle* ASender) override;
     // Validates, closes the earlier results, writes the selection, runs the query and closes the dialog.
     void ActOKExecute(host::TControle* ASender) override;

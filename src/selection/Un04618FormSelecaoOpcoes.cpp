@@ -215,10 +215,11 @@ void TForm04618Selecao::LigarTeclas() {
     ChkDetPercAnaliseVertical.OnKeyDown = ChkCalcularPercentualDiferenca.OnKeyDown = LEnter;
 }
 
-void TForm04618Selecao::FormKeyDown(host::TTecla ATecla) {
-    TFormZTTandorPadraoResult::FormKeyDown(ATecla);
-    if (ATecla == host::TTecla::F11)
-        host::Servicos().Interacao->Pesquisar(LkpPesquisaPerOrcConsulta);
+bool TForm04618Selecao::FormKeyDown(host::TTecla ATecla) {
+    if (ATecla != host::TTecla::F11)
+        return TFormZTTandorPadraoResult::FormKeyDown(ATecla);
+    host::Servicos().Interacao->Pesquisar(LkpPesquisaPerOrcConsulta);
+    return true;
 }
 
 } // namespace pct04618

@@ -17,8 +17,16 @@ class DialogWindow : public QDialog {
     FormBinding& binding() { return binding_; }
     // Shows the dialog until the form is closed. Closing the window is the form's "Sair".
     void run();
+    void reject() override;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
+    void darkenDisabled();
+    void dressButtons(const std::vector<std::string>& names);
+
     FormBinding binding_;
     host::TFormZTTandorPadraoResult& form_;
 };
