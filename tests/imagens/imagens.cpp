@@ -13,6 +13,7 @@
 
 #include "host/DataHora.h"
 #include "host/Falhas.h"
+#include "host/Lookup.h"
 #include "suite/program/DesktopCommand.h"
 #include "suite/program/Module.h"
 
@@ -80,11 +81,13 @@ class Usuario : public host::TInteracao {
   public:
     explicit Usuario(desktop::DesktopInteraction& dentro) : dentro_(dentro) {}
     std::function<void(host::TForm&)> preencher;
+    host::TForm* dialogo = nullptr; // the last one
 
-    int Mensagem(const host::TMensagem& mensagem) override { return dentro_.Mensagem(mensagem); }
+    int Mensagem(const host::TMensagem& mensagem) override { return preencher ? 7 : dentro_.Mensagem(mensagem); }
     void Progresso(const host::TEventoProgresso& evento) override { dentro_.Progresso(evento); }
     bool ProgressoCancelado() override { return dentro_.ProgressoCancelado(); }
     void MostrarModal(host::TFormZTTandorPadraoResult& form) override {
+        dialogo = &form;
         if (!preencher)
             return dentro_.MostrarModal(form);
         preencher(form);
@@ -108,6 +111,21 @@ void consultar(desktop::MainWindow& janela, Usuario& usuario, const char* modo) 
         if (modo[0] == '3')
             for (const auto* linha : {"ChkLinhaVlrBase", "ChkLinhaVlrOrcado", "ChkLinhaVlrRealizado"})
                 definir(form, linha, "1");
+    };
+    janela.findChild<QAction*>(QStringLiteral("ActSelecionar"))->trigger();
+    usuario.preencher = {};
+}
+
+// The income statement with its accounts, which makes its totals first.
+void demonstracao(desktop::MainWindow& janela, Usuario& usuario) {
+    usuario.preencher = [](host::TForm& form) {
+        definir(form, "CbSelecionar", "2");
+        definir(form, "CbDetalharSelecao", "3");
+        auto& relatorio = dynamic_cast<host::TZTLookupEx&>(form.Controle("LkpRelatorioDemonstConfig"));
+        relatorio.Digitar("1");
+        form.SairDe(relatorio);
+        definir(form, "ChkDetalharTotalizadoresContas", "1");
+        definir(form, "ChkAgruparValFiliais", "1");
     };
     janela.findChild<QAction*>(QStringLiteral("ActSelecionar"))->trigger();
     usuario.preencher = {};
@@ -191,6 +209,7 @@ void janelas(const std::string& banco) {
     janela.resize(1280, 760);
     janela.show();
     fotografar(janela, "janela-inicio");
+    fotografarModal("selecao", [&] { janela.findChild<QAction*>(QStringLiteral("ActSelecionar"))->trigger(); });
     consultar(janela, usuario, "1");
     fotografar(janela, "janela-agrupando-periodos");
     auto* grafico = janela.findChild<QAction*>(QStringLiteral("grafico"));
@@ -203,6 +222,13 @@ void janelas(const std::string& banco) {
     escolherLinha(janela, 4);
     fotografar(janela, "janela-grafico-da-linha");
     grafico->trigger();
+    demonstracao(janela, usuario);
+    fotografar(janela, "janela-demonstracao");
+    fotografarModal("selecao-demonstracao",
+                    [&] { janela.findChild<QAction*>(QStringLiteral("ActSelecionar"))->trigger(); });
+    fotografarModal("pesquisa", [&] {
+        interacao.Pesquisar(dynamic_cast<host::TZTLookupEx&>(usuario.dialogo->Controle("LkpTotalizadorDemonstConfig")));
+    });
     for (const auto look : {Look::Light, Look::Dark, Look::Contrast}) {
         desktop::apply(look);
         const auto nome = "janela-" + desktop::nameOf(look).toStdString();
