@@ -229,7 +229,7 @@ void janelas(const std::string& banco) {
     fotografarModal("pesquisa", [&] {
         interacao.Pesquisar(dynamic_cast<host::TZTLookupEx&>(usuario.dialogo->Controle("LkpTotalizadorDemonstConfig")));
     });
-    for (const auto look : {Look::Light, Look::Dark, Look::Contrast}) {
+    for (const auto look : {Look::Dark, Look::Contrast}) {
         desktop::apply(look);
         const auto nome = "janela-" + desktop::nameOf(look).toStdString();
         fotografar(janela, nome.c_str());

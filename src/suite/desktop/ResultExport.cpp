@@ -1,12 +1,12 @@
 #include "suite/desktop/ResultExport.h"
 
 #include "suite/desktop/GridPane.h"
+#include "suite/desktop/GridPdf.h"
 #include "suite/desktop/MessageDialog.h"
 #include "suite/desktop/Text.h"
 #include "suite/desktop/UserSettings.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QDate>
 #include <QDesktopServices>
 #include <QFileDialog>
@@ -21,38 +21,14 @@ namespace {
 
 constexpr const char* FolderSetting = "exportar/pasta";
 constexpr int OpenFile = 6;
-
-// A cell of a clipboard's table must not break it.
-QString cellText(const std::string& text) {
-    auto cell = fromUtf8(text);
-    for (const auto sign : {QLatin1Char('\t'), QLatin1Char('\n'), QLatin1Char('\r')})
-        cell.replace(sign, QLatin1Char(' '));
-    return cell;
-}
-
-QString tableText(const GridPane& pane) {
-    const auto& grid = pane.grid();
-    std::vector<const host::TColunaGrade*> columns;
-    for (const auto& column : grid.Colunas())
-        if (column.Visivel || column.Grupo >= 0)
-            columns.push_back(&column);
-    QString text;
-    for (const auto* column : columns) {
-        const auto band = column->Faixa.empty() ? std::string() : column->Faixa + " ";
-        text += cellText(band + column->Titulo) + (column == columns.back() ? QLatin1Char('\n') : QLatin1Char('\t'));
-    }
-    for (const auto line : pane.lines())
-        for (const auto* column : columns)
-            text += cellText(grid.Celula(line, *column).Texto()) +
-                    (column == columns.back() ? QLatin1Char('\n') : QLatin1Char('\t'));
-    return text;
-}
+constexpr const char* PictureEnding = ".pdf";
 
 } // namespace
 
 ResultExport::ResultExport(ExportFunction write, std::vector<ExportFormat> formats, QWidget& window)
     : QObject(&window), write_(std::move(write)), formats_(std::move(formats)), window_(window),
       menu_(new QMenu(QStringLiteral("E&xportar"), &window)) {
+    formats_.push_back({PictureEnding, "&Figura da grade (.pdf)"});
     menu_->setObjectName(QStringLiteral("PmExtensoesGrade"));
     for (const auto& format : formats_) {
         auto* action = menu_->addAction(fromUtf8(format.caption));
@@ -100,7 +76,10 @@ void ResultExport::write(const GridPane& shown, const QString& file) {
     {
         const Restore restore;
         const auto above = title();
-        write_(shown.grid(), shown.lines(), toUtf8(file), above);
+        if (file.endsWith(QLatin1String(PictureEnding), Qt::CaseInsensitive))
+            writeGridPdf(shown, file, above);
+        else
+            write_(shown.grid(), shown.lines(), toUtf8(file), above);
     }
     tell(QStringLiteral("Exportado para %1").arg(file));
     MessageContent done;
@@ -114,10 +93,10 @@ void ResultExport::write(const GridPane& shown, const QString& file) {
 }
 
 void ResultExport::toClipboard() {
-    const auto* shown = pane();
+    auto* shown = pane();
     if (!shown)
         return;
-    QGuiApplication::clipboard()->setText(tableText(*shown));
+    shown->copyAll();
     tell(QStringLiteral("%1 linhas copiadas, com os títulos das colunas")
              .arg(QLocale().toString(static_cast<qulonglong>(shown->lines().size()))));
 }
