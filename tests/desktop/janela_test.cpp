@@ -9,6 +9,8 @@
 #include "suite/desktop/DesktopInteraction.h"
 #include "suite/desktop/DialogWindow.h"
 #include "suite/desktop/Failures.h"
+#include "suite/desktop/GridPane.h"
+#include "suite/desktop/GridView.h"
 #include "suite/desktop/MainWindow.h"
 #include "suite/desktop/MessageDialog.h"
 #include "suite/desktop/StartDialog.h"
@@ -24,6 +26,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QRadioButton>
+#include <QTest>
 #include <QTimer>
 
 #include <cstdlib>
@@ -271,7 +274,8 @@ class JanelaDoModulo : public Casca {
         void Progresso(const host::TEventoProgresso& evento) override { dentro_.Progresso(evento); }
         bool ProgressoCancelado() override { return dentro_.ProgressoCancelado(); }
         void MostrarModal(host::TFormZTTandorPadraoResult& form) override {
-            preencher(form);
+            if (preencher)
+                preencher(form);
             dentro_.MostrarModal(form);
         }
         void Focar(host::TControle& controle) override { dentro_.Focar(controle); }
@@ -389,6 +393,51 @@ TEST_F(JanelaDoModulo, MostraOQueOModeloTemEmVista) {
     executar("repetir");
     EXPECT_EQ("Visualizando projeção orçamentária de 01/01/2024 a 30/04/2024", texto("PnlTitulo"))
         << "confirmed without showing the dialog";
+}
+
+TEST_F(JanelaDoModulo, ConsultaInteiraSoComOTeclado) {
+    const auto preencher = [](QDialog& dialogo) {
+        const auto onde = [&] { return dialogo.focusWidget()->objectName().toStdString(); };
+        const auto digitar = [&](const char* texto) { QTest::keyClicks(dialogo.focusWidget(), texto); };
+        const auto enter = [&] { QTest::keyClick(dialogo.focusWidget(), Qt::Key_Return); };
+        enter(); // past the company
+        ASSERT_EQ("DeDataIni", onde());
+        digitar("01012024");
+        enter();
+        digitar("31032024");
+        enter();
+        while (dialogo.isVisible() && onde() != "CbCenario")
+            enter();
+        enter(); // the last field confirms
+    };
+    janela->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(janela.get()));
+    comModais({preencher}, [&] { QTest::keyClick(janela.get(), Qt::Key_F2); });
+    EXPECT_EQ("Visualizando projeção orçamentária de 01/01/2024 a 31/03/2024", texto("PnlTitulo"));
+    auto* grade = janela->paneInView();
+    ASSERT_TRUE(grade);
+    ASSERT_GT(grade->lines().size(), 0U);
+    auto& linhas = grade->view();
+    QTest::keyClick(&linhas, Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(linhas.model()->rowCount() - 1, linhas.currentIndex().row());
+    QTest::keyClick(&linhas, Qt::Key_Minus, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_LT(linhas.model()->rowCount(), 10) << "the establishments alone";
+    const auto antes = grade->lines().size();
+    QTest::keyClick(janela.get(), Qt::Key_F5);
+    EXPECT_EQ(antes, grade->lines().size());
+}
+
+TEST_F(JanelaDoModulo, TudoOQueRecebeOFocoTemNome) {
+    selecionar("1");
+    acao("grafico").trigger();
+    std::vector<std::string> mudos;
+    for (const auto* widget : janela->findChildren<QWidget*>()) {
+        const bool recebe = widget->focusPolicy() != Qt::NoFocus && widget->isVisible() && !widget->focusProxy();
+        const auto* botao = qobject_cast<const QAbstractButton*>(widget);
+        if (recebe && widget->accessibleName().isEmpty() && !(botao && !botao->text().isEmpty()))
+            mudos.push_back(std::string(widget->metaObject()->className()) + " " + widget->objectName().toStdString());
+    }
+    EXPECT_EQ(std::vector<std::string>{}, mudos);
 }
 
 TEST_F(JanelaDoModulo, ExportaAsLinhasAVistaNaOrdemEmQueEstao) {

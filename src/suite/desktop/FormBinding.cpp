@@ -72,6 +72,8 @@ void FormBinding::nameFor(const host::TControle& control, QWidget& widget) const
     for (std::size_t i = 0; name.isEmpty() && i + 1 < all.size(); ++i)
         if (all[i] == &control) // a swatch has its text beside it
             name = spokenName(form_, *all[i + 1]);
+    if (name.isEmpty())
+        return; // a grid names itself and its parts
     for (auto* named : {&widget, inputOf(&widget)}) {
         named->setAccessibleName(name);
         if (const auto hint = hintFor(control); !hint.isEmpty())
