@@ -38,8 +38,9 @@ QPalette darkPalette() {
     return paletteOf({0x25282d, 0xe6e8eb, 0x1b1d21, 0x22252a, 0x32363d, 0x3d7fc9, 0xffffff, 0x7db4f2, 0x8b929c});
 }
 
+// The style frames a field darker than the window, which black has no room for: black are the fields.
 QPalette contrastPalette() {
-    return paletteOf({0x000000, 0xffffff, 0x000000, 0x1a1a1a, 0x000000, 0xffd800, 0x000000, 0x66ccff, 0xb8b8b8});
+    return paletteOf({0x303030, 0xffffff, 0x000000, 0x1a1a1a, 0x303030, 0xffd800, 0x000000, 0x66ccff, 0xb8b8b8});
 }
 
 } // namespace
