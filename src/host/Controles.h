@@ -87,6 +87,7 @@ class HOST_API TLabelColorido : public TLabel {
         : TLabel(std::move(ANome)), FFonte(AFonte), FFundo(AFundo) {}
     TCor Fonte() const { return FFonte; }
     std::optional<TCor> Fundo() const { return FFundo; }
+    bool Amostra() const { return FFundo == FFonte; }
 
   private:
     TCor FFonte;

@@ -7,6 +7,21 @@
 
 namespace host {
 
+std::string TituloPorExtenso(const std::vector<const TColunaGrade*>& AColunas, std::size_t AIndice) {
+    const auto LVezes = [&](const std::string& ATitulo) {
+        return std::count_if(AColunas.begin(), AColunas.end(), [&](const auto* C) { return C->Titulo == ATitulo; });
+    };
+    const auto& LColuna = *AColunas[AIndice];
+    if (LVezes(LColuna.Titulo) == 1)
+        return LColuna.Titulo;
+    if (!LColuna.Faixa.empty())
+        return LColuna.Faixa.starts_with(LColuna.Titulo) ? LColuna.Faixa : LColuna.Titulo + " " + LColuna.Faixa;
+    while (AIndice > 0)
+        if (const auto& LAntes = AColunas[--AIndice]->Titulo; !LAntes.empty() && LVezes(LAntes) == 1)
+            return LColuna.Titulo + " " + LAntes;
+    return LColuna.Titulo;
+}
+
 std::string TextoExibido(const TValor& AValor, std::string_view AFormato) {
     if (const auto* LDecimal = std::get_if<TDecimal>(&AValor))
         return LDecimal->Escala == 0 && AFormato.empty() ? LDecimal->Texto() : FormatarNumero(*LDecimal, AFormato);

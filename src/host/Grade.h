@@ -79,6 +79,10 @@ class HOST_API TGrade : public TControle {
     std::uint64_t FVersao = 0; // of the columns: a change tells the listeners
 };
 
+// The title of one of the columns so that it is told from the others without its band: "Valor" below "Valor Base" is
+// "Valor Base", "%" behind "Janeiro" is "% Janeiro".
+HOST_API std::string TituloPorExtenso(const std::vector<const TColunaGrade*>& AColunas, std::size_t AIndice);
+
 // A value as a Brazilian reader expects it: numbers by the format (empty: a whole number plain, another with all its
 // decimals), dates as dd/mm/aaaa, "" for NULL.
 HOST_API std::string TextoExibido(const TValor& AValor, std::string_view AFormato);

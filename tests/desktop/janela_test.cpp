@@ -427,6 +427,14 @@ TEST_F(JanelaDoModulo, ConsultaInteiraSoComOTeclado) {
     EXPECT_EQ(antes, grade->lines().size());
 }
 
+TEST_F(JanelaDoModulo, CadaControleTemSeuLugar) {
+    for (const auto* controle : sessao->window().Controles()) {
+        const bool leiautes = dynamic_cast<const host::TZTDbGridDevLeiaute*>(controle) != nullptr; // a menu of the grid
+        EXPECT_EQ(!leiautes, janela->findChild<QObject*>(QString::fromStdString(controle->Nome())) != nullptr)
+            << controle->Nome();
+    }
+}
+
 TEST_F(JanelaDoModulo, TudoOQueRecebeOFocoTemNome) {
     selecionar("1");
     acao("grafico").trigger();

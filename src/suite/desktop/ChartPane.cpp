@@ -2,6 +2,7 @@
 
 #include "host/Falhas.h"
 #include "suite/desktop/ChartPainter.h"
+#include "suite/desktop/Failures.h"
 #include "suite/desktop/GridPane.h"
 #include "suite/desktop/Text.h"
 
@@ -9,7 +10,6 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QHBoxLayout>
-#include <QMessageBox>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPushButton>
@@ -120,7 +120,7 @@ void ChartPane::askAndSave() {
     try {
         save(file);
     } catch (const host::TFalha& failure) {
-        QMessageBox::warning(window(), "Salvar gráfico", fromUtf8(failure.what()));
+        showFailure(failure, {}, window());
     }
 }
 

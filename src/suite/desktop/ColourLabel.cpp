@@ -1,40 +1,50 @@
 #include "suite/desktop/ColourLabel.h"
 
+#include "suite/desktop/CellColours.h"
+
+#include <QEvent>
 #include <QPainter>
 
 namespace suite::desktop {
 
 ColourLabel::ColourLabel(const host::TLabelColorido& label, QWidget* parent)
-    : QLabel(parent), font_(QRgb(label.Fonte())), swatch_(label.Fundo() == label.Fonte()) {
-    if (label.Fundo())
-        background_ = QColor(QRgb(*label.Fundo()));
+    : QLabel(parent), font_(QRgb(label.Fonte())), swatch_(label.Amostra()) {
     if (swatch_) {
         const int side = fontMetrics().height();
-        setIndent(side + side / 2);
-        setMinimumSize(side, side);
+        setFixedSize(side, side);
         return;
     }
-    // Both colours of a pair are set together: the module's are made for a light background.
-    auto colours = palette();
-    colours.setColor(QPalette::Active, QPalette::WindowText, font_);
-    colours.setColor(QPalette::Inactive, QPalette::WindowText, font_);
-    const bool dark = colours.color(QPalette::Window).lightness() < font_.lightness() + 64;
-    if (background_.isValid() || dark) {
-        colours.setColor(QPalette::Window, background_.isValid() ? background_ : QColor(Qt::white));
+    if (label.Fundo()) {
+        background_ = QColor(QRgb(*label.Fundo()));
         setAutoFillBackground(true);
     }
-    setPalette(colours);
+    colourText();
+}
+
+void ColourLabel::colourText() {
+    auto colours = palette();
+    if (background_.isValid())
+        colours.setColor(QPalette::Window, background_);
+    const auto text = legible(font_, colours.color(QPalette::Window));
+    for (const auto group : {QPalette::Active, QPalette::Inactive})
+        colours.setColor(group, QPalette::WindowText, text);
+    if (colours != palette()) // a change of palette is told here again
+        setPalette(colours);
+}
+
+void ColourLabel::changeEvent(QEvent* event) {
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !swatch_)
+        colourText();
 }
 
 void ColourLabel::paintEvent(QPaintEvent* event) {
-    QLabel::paintEvent(event);
     if (!swatch_)
-        return;
+        return QLabel::paintEvent(event);
     QPainter painter(this);
-    const int side = fontMetrics().height() - 2;
     painter.setPen(palette().color(QPalette::Mid));
     painter.setBrush(isEnabled() ? QBrush(font_) : QBrush(font_, Qt::Dense4Pattern));
-    painter.drawRect(1, (height() - side) / 2, side, side - 1);
+    painter.drawRect(rect().adjusted(1, 1, -2, -2));
 }
 
 } // namespace suite::desktop

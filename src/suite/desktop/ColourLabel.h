@@ -6,8 +6,8 @@
 
 namespace suite::desktop {
 
-// A label in its control's colours, which hold while it is enabled. One whose font and background are the same is a
-// swatch: a square of that colour before its text, if it has one, in the ordinary colour of text.
+// A label in its control's colours. Without a background of its own the text is made legible on the window's, whatever
+// that becomes. A swatch is a square of its colour alone.
 class ColourLabel : public QLabel {
     Q_OBJECT
 
@@ -16,8 +16,11 @@ class ColourLabel : public QLabel {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
+    void colourText();
+
     QColor font_;
     QColor background_; // invalid: the window's own
     bool swatch_;

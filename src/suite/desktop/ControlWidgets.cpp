@@ -98,12 +98,12 @@ QWidget* lookupEdit(host::TZTLookupEx& control, FormBinding& binding, QWidget* p
 }
 
 QWidget* label(host::TControle& control, QWidget* parent) {
-    QLabel* widget = nullptr;
-    if (const auto* coloured = dynamic_cast<const host::TLabelColorido*>(&control))
-        widget = new ColourLabel(*coloured, parent);
-    else
-        widget = new QLabel(parent);
-    return following(control, widget, [&control, widget] { widget->setText(fromMessage(control.Caption())); });
+    const auto* coloured = dynamic_cast<const host::TLabelColorido*>(&control);
+    auto* widget = coloured ? new ColourLabel(*coloured, parent) : new QLabel(parent);
+    const bool swatch = coloured && coloured->Amostra(); // whose caption nobody could read
+    return following(control, widget, [&control, widget, swatch] {
+        widget->setText(swatch ? QString() : fromMessage(control.Caption()));
+    });
 }
 
 // Actions of the frame may lack a caption of their own.

@@ -1,6 +1,6 @@
 #include "suite/desktop/DateEdit.h"
 
-#include "suite/desktop/FieldIcons.h"
+#include "suite/desktop/Icons.h"
 
 #include <QAction>
 #include <QCalendarWidget>
@@ -50,9 +50,9 @@ QDate byMonths(const QDate& date, int months) {
 
 DateEdit::DateEdit(QWidget* parent) : QLineEdit(parent) {
     setInputMask(QStringLiteral("00/00/0000"));
-    calendar_ = addAction(calendarIcon(*this), QLineEdit::TrailingPosition);
-    calendar_->setToolTip(QStringLiteral("Calendário (F4)"));
-    connect(calendar_, &QAction::triggered, this, &DateEdit::openCalendar);
+    auto* calendar = addAction(icon(Symbol::Calendar), QLineEdit::TrailingPosition);
+    calendar->setToolTip(QStringLiteral("Calendário (F4)"));
+    connect(calendar, &QAction::triggered, this, &DateEdit::openCalendar);
     connect(this, &QLineEdit::textEdited, this, [this] { Q_EMIT edited(shown()); });
     constexpr int Characters = 14; // date and button
     setFixedWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) * Characters);
@@ -123,12 +123,6 @@ void DateEdit::mouseReleaseEvent(QMouseEvent* event) {
     QLineEdit::mouseReleaseEvent(event);
     if (text() == QLatin1String("//"))
         setCursorPosition(0);
-}
-
-void DateEdit::changeEvent(QEvent* event) {
-    QLineEdit::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange && calendar_)
-        calendar_->setIcon(calendarIcon(*this));
 }
 
 void DateEdit::openCalendar() {

@@ -82,7 +82,8 @@ void alignLabels(const std::vector<QGroupBox*>& boxes) {
 bool isLabel(const host::TControle& control) { return dynamic_cast<const host::TLabel*>(&control) != nullptr; }
 
 bool isSwatch(const host::TControle& control) {
-    return dynamic_cast<const host::TLabelColorido*>(&control) && control.Caption().empty();
+    const auto* coloured = dynamic_cast<const host::TLabelColorido*>(&control);
+    return coloured && coloured->Amostra();
 }
 
 } // namespace

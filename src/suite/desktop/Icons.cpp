@@ -80,6 +80,21 @@ void drawServer(QPainter& p, const QColor&) {
     }
 }
 
+void drawSearch(QPainter& p, const QColor&) {
+    p.drawEllipse(QPointF(9.8, 9.8), 6.8, 6.8);
+    p.drawLine(QPointF(15, 15), QPointF(21, 21));
+}
+
+void drawCalendar(QPainter& p, const QColor&) {
+    p.drawRoundedRect(QRectF(2.3, 4.5, 19.5, 17.2), 2, 2);
+    p.drawLine(QPointF(2.3, 9.8), QPointF(21.8, 9.8));
+    for (const double x : {7.5, 16.5})
+        p.drawLine(QPointF(x, 2.3), QPointF(x, 6));
+    for (const double y : {13.5, 18.0})
+        for (const double x : {6.8, 12.0, 17.2})
+            p.drawPoint(QPointF(x, y));
+}
+
 using Draw = void (*)(QPainter&, const QColor&);
 
 class DrawnIcon : public QIconEngine {
@@ -127,6 +142,10 @@ Draw drawingOf(Symbol symbol) {
         return drawFile;
     case Symbol::Server:
         return drawServer;
+    case Symbol::Search:
+        return drawSearch;
+    case Symbol::Calendar:
+        return drawCalendar;
     case Symbol::Demo:
         break;
     }

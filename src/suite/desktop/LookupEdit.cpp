@@ -1,7 +1,7 @@
 #include "suite/desktop/LookupEdit.h"
 
 #include "suite/desktop/ElidedLabel.h"
-#include "suite/desktop/FieldIcons.h"
+#include "suite/desktop/Icons.h"
 #include "suite/desktop/Text.h"
 
 #include <QHBoxLayout>
@@ -16,7 +16,7 @@ LookupEdit::LookupEdit(host::TZTLookupEx& lookup, QWidget* parent)
       description_(new ElidedLabel(this)) {
     constexpr int Characters = 11;
     code_->setFixedWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) * Characters);
-    search_->setIcon(searchIcon(*this));
+    search_->setIcon(icon(Symbol::Search));
     search_->setToolTip(QStringLiteral("Pesquisar (F4)"));
     search_->setAccessibleName(QStringLiteral("Pesquisar"));
     search_->setFocusPolicy(Qt::NoFocus);
@@ -93,12 +93,6 @@ void LookupEdit::keyPressEvent(QKeyEvent* event) {
 void LookupEdit::mousePressEvent(QMouseEvent* event) {
     focusProxy()->setFocus(Qt::MouseFocusReason);
     QWidget::mousePressEvent(event);
-}
-
-void LookupEdit::changeEvent(QEvent* event) {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange)
-        search_->setIcon(searchIcon(*this));
 }
 
 } // namespace suite::desktop

@@ -39,7 +39,6 @@ class LookupEdit : public QWidget {
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
   private:
     host::TZTLookupEx& lookup_;

@@ -5,13 +5,13 @@
 #include "suite/desktop/Failures.h"
 #include "suite/desktop/GridPane.h"
 #include "suite/desktop/Icons.h"
-#include "suite/desktop/LegendPanel.h"
 #include "suite/desktop/Text.h"
 #include "suite/desktop/UserSettings.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
 #include <QMenu>
@@ -75,9 +75,25 @@ std::map<host::TCor, QString> MainWindow::meaningsOf(const std::vector<std::stri
     std::map<host::TCor, QString> meanings;
     for (std::size_t i = 0; i + 1 < labels.size(); ++i)
         if (const auto* swatch = dynamic_cast<const host::TLabelColorido*>(&form_.Controle(labels[i]));
-            swatch && swatch->Fundo())
-            meanings[*swatch->Fundo()] = fromMessage(form_.Controle(labels[i + 1]).Caption());
+            swatch && swatch->Amostra())
+            meanings[swatch->Fonte()] = fromMessage(form_.Controle(labels[i + 1]).Caption());
     return meanings;
+}
+
+QWidget* MainWindow::makeLegend(const View& view, QWidget* parent) {
+    auto* legend = new QWidget(parent);
+    legend->setObjectName(QString::fromLatin1(view.legend));
+    auto* row = new QHBoxLayout(legend);
+    row->setContentsMargins(12, 5, 12, 5);
+    row->setSpacing(6);
+    for (const auto& name : view.labels) {
+        row->addWidget(binding_->widget(name));
+        const auto* swatch = dynamic_cast<const host::TLabelColorido*>(&form_.Controle(name));
+        if (!swatch || !swatch->Amostra())
+            row->addSpacing(14);
+    }
+    row->addStretch(1);
+    return legend;
 }
 
 void MainWindow::makeBody() {
@@ -120,13 +136,9 @@ void MainWindow::makeBody() {
                 view.pane->setLayouts(*layouts);
             connect(view.pane, &GridPane::linesChanged, this, [this] { showRows(); });
         }
-        auto* legend = new LegendPanel(form_, view.legend, view.labels, body);
+        auto* legend = makeLegend(view, body);
         column->addWidget(legend);
-        auto& gridControl = form_.Controle(view.grid);
-        follow(gridControl, [this, grid, &gridControl] {
-            grid->setVisible(gridControl.Visible());
-            refresh();
-        });
+        follow(form_.Controle(view.grid), [this] { refresh(); });
         auto& legendControl = form_.Controle(view.legend);
         follow(legendControl, [legend, &legendControl] { legend->setVisible(legendControl.Visible()); });
     }

@@ -62,6 +62,7 @@ class MainWindow : public QMainWindow {
     };
 
     std::map<host::TCor, QString> meaningsOf(const std::vector<std::string>& labels) const;
+    QWidget* makeLegend(const View& view, QWidget* parent);
     void makeBody();
     // Beside the grid, hidden until it is shown.
     void setSidePane(QWidget* pane);

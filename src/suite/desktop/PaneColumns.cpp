@@ -81,18 +81,10 @@ int decimalsShown(const std::string& format, int scale) {
 }
 
 QString fullTitle(const std::vector<host::TColunaGrade>& columns, std::size_t place) {
-    const auto times = [&](const std::string& title) {
-        return std::count_if(columns.begin(), columns.end(), [&](const auto& c) { return c.Titulo == title; });
-    };
-    const auto& column = columns[place];
-    if (times(column.Titulo) == 1)
-        return fromUtf8(column.Titulo);
-    if (!column.Faixa.empty())
-        return fromUtf8(column.Faixa.starts_with(column.Titulo) ? column.Faixa : column.Titulo + " " + column.Faixa);
-    while (place > 0)
-        if (const auto& before = columns[--place].Titulo; !before.empty() && times(before) == 1)
-            return fromUtf8(column.Titulo + " " + before);
-    return fromUtf8(column.Titulo);
+    std::vector<const host::TColunaGrade*> all;
+    for (const auto& column : columns)
+        all.push_back(&column);
+    return fromUtf8(host::TituloPorExtenso(all, place));
 }
 
 bool isOffered(const std::vector<host::TColunaGrade>& columns, std::size_t place) {

@@ -29,8 +29,7 @@ int columnsFrozen(const host::TGrade& grid, const std::vector<PaneColumn>& colum
 std::string formatOf(const host::TGrade& grid, const PaneColumn& column);
 int decimalsShown(const std::string& format, int scale);
 
-// A title that says which column it is without its band: "Valor" below "Valor Base" is "Valor Base", "%" behind
-// "Janeiro" is "% Janeiro".
+// The title by which a column is told from all others.
 QString fullTitle(const std::vector<host::TColunaGrade>& columns, std::size_t place);
 
 // Whether a user may choose it: a technical column has no title, and a "%" that stands behind one without a title

@@ -1,6 +1,6 @@
 #include "suite/desktop/SearchDialog.h"
 
-#include "suite/desktop/FieldIcons.h"
+#include "suite/desktop/Icons.h"
 #include "suite/desktop/Text.h"
 
 #include <QAction>
@@ -53,7 +53,7 @@ void SearchDialog::arrange(const host::TZTLookupEx& lookup) {
     filter_->setAccessibleDescription(QStringLiteral("Mostra os registros que contêm o texto"));
     filter_->setPlaceholderText(QStringLiteral("Digite para filtrar"));
     filter_->setClearButtonEnabled(true);
-    filter_->addAction(searchIcon(*filter_), QLineEdit::LeadingPosition);
+    filter_->addAction(icon(Symbol::Search), QLineEdit::LeadingPosition);
     filter_->installEventFilter(this);
     table_->setObjectName(QStringLiteral("Registros"));
     table_->setAccessibleName(QStringLiteral("Registros"));

@@ -13,23 +13,6 @@ namespace {
 
 using std::filesystem::path;
 
-// Flat files have no bands, and a title that stands twice says nothing: "Valor" under the band "Valor Base" becomes
-// "Valor Base", "%" behind the column "Janeiro" becomes "% Janeiro".
-std::string flatTitle(const std::vector<GridColumn>& columns, std::size_t index) {
-    const auto times = [&](const std::string& title) {
-        return std::count_if(columns.begin(), columns.end(), [&](const auto& c) { return c.shown->Titulo == title; });
-    };
-    const auto& column = *columns[index].shown;
-    if (times(column.Titulo) == 1)
-        return column.Titulo;
-    if (!column.Faixa.empty())
-        return column.Faixa.starts_with(column.Titulo) ? column.Faixa : column.Titulo + " " + column.Faixa;
-    while (index > 0)
-        if (const auto& before = columns[--index].shown->Titulo; times(before) == 1)
-            return column.Titulo + " " + before;
-    return column.Titulo;
-}
-
 void writeCsvFile(const host::TGrade& grid, const path& file, Title) {
     std::ofstream out(file, std::ios::binary);
     out.exceptions(std::ios::failbit | std::ios::badbit);
@@ -82,9 +65,12 @@ std::vector<GridColumn> gridColumns(const host::TGrade& grid) {
 
 std::vector<ShownColumn> flatColumns(const host::TGrade& grid) {
     const auto columns = gridColumns(grid);
+    std::vector<const host::TColunaGrade*> shown;
+    for (const auto& column : columns)
+        shown.push_back(column.shown);
     std::vector<ShownColumn> flat;
-    for (std::size_t i = 0; i < columns.size(); ++i)
-        flat.push_back({columns[i].shown->Campo, flatTitle(columns, i)});
+    for (std::size_t i = 0; i < shown.size(); ++i)
+        flat.push_back({shown[i]->Campo, host::TituloPorExtenso(shown, i)});
     return flat;
 }
 
