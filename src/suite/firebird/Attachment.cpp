@@ -2,6 +2,7 @@
 
 #include "host/Falhas.h"
 #include "suite/firebird/Charset.h"
+#include "suite/firebird/LockFolder.h"
 #include "suite/firebird/Statement.h"
 #include "suite/firebird/Transaction.h"
 
@@ -18,33 +19,6 @@ namespace {
 constexpr const char* AttachName = "abertura do banco de dados";
 constexpr int ConnectTimeoutSeconds = 10;
 constexpr int PageSize = 16384;
-
-// The engine keeps its locks in files. Whoever opens a database must use the same ones, so they stand beside it and
-// all may write there. The client library reads the setting once a process: the first embedded database decides.
-std::filesystem::path lockDirectory(const std::filesystem::path& file) { return file.parent_path() / ".orcreal-lock"; }
-
-void useLockDirectoryBeside(const std::filesystem::path& file) {
-    static const bool done = [&] {
-        const auto folder = lockDirectory(file);
-        std::error_code ignored; // an unusable folder is reported by the attach that needs it
-        if (std::filesystem::create_directory(folder, ignored))
-            std::filesystem::permissions(folder, std::filesystem::perms::all, ignored);
-        ::setenv("FIREBIRD_LOCK", folder.c_str(), 1);
-        return true;
-    }();
-    static_cast<void>(done);
-}
-
-// The engine gives its lock files to whoever comes first. They belong to all who may write the database.
-void shareLockFiles(const std::filesystem::path& file) {
-    using std::filesystem::perms;
-    std::error_code ignored; // a file of another user is his to share
-    const auto rights = std::filesystem::status(file, ignored).permissions() &
-                        (perms::owner_read | perms::owner_write | perms::group_read | perms::group_write |
-                         perms::others_read | perms::others_write);
-    for (std::filesystem::directory_iterator i(lockDirectory(file), ignored), end; i != end; i.increment(ignored))
-        std::filesystem::permissions(i->path(), rights, ignored);
-}
 
 class ParameterBlock {
   public:
@@ -72,10 +46,32 @@ class ParameterBlock {
     Disposable<Firebird::IXpbBuilder> builder_;
 };
 
+[[noreturn]] void refuse(const std::filesystem::path& file, const std::string& why, long code) {
+    throw host::TFalhaBanco(host::TTipoFalhaBanco::Conexao, why, "08001", {code}, AttachName, file.string());
+}
+
+// The engine takes what stands before a colon for a server, wherever in a path it is, and converts names to UTF-8.
+void requireUsableName(const std::filesystem::path& file) {
+    const auto whole = realFile(file).string();
+    if (whole.find(':') != std::string::npos)
+        refuse(file,
+               "O caminho do banco de dados, " + whole +
+                   ", tem dois-pontos, e o motor do banco o tomaria pelo nome de um servidor. Ponha o banco numa pasta "
+                   "sem dois-pontos no nome, ou use um servidor Firebird.",
+               isc_unavailable);
+    if (std::mbstowcs(nullptr, whole.c_str(), 0) == static_cast<std::size_t>(-1)) // in the process's locale, as it does
+        refuse(file,
+               "O caminho do banco de dados tem um nome que não está em UTF-8. Renomeie a pasta ou o arquivo e tente "
+               "novamente.",
+               isc_transliteration_failed);
+}
+
 // A plain path must never go to a server that happens to run on this machine, and a server's name never to a file.
 void setProvider(ParameterBlock& block, const Target& target) {
-    if (target.embedded())
-        useLockDirectoryBeside(target.file());
+    if (target.embedded()) {
+        requireUsableName(target.file());
+        useLockFolder(target.file());
+    }
     // Without the engine's own collector of old record versions: beside its only user it does nothing but contend.
     block.text(isc_dpb_config, target.embedded() ? "Providers=Engine12\nGCPolicy=cooperative" : "Providers=Remote");
 }
@@ -85,18 +81,16 @@ void setProvider(ParameterBlock& block, const Target& target) {
 void requireDatabaseFile(const std::filesystem::path& file) {
     constexpr std::uintmax_t LeastPage = 1024;
     constexpr int HeaderPage = 1; // first byte of the first page
-    const auto refuse = [&](const std::string& why, long code) {
-        throw host::TFalhaBanco(host::TTipoFalhaBanco::Conexao, why, "08001", {code}, AttachName, file.string());
-    };
     std::error_code error;
     const auto status = std::filesystem::status(file, error);
     if (!std::filesystem::exists(status))
-        refuse("O banco de dados " + file.string() + " não existe. Confira o caminho, ou crie um com \"orcreal demo\".",
+        refuse(file,
+               "O banco de dados " + file.string() + " não existe. Confira o caminho, ou crie um com \"orcreal demo\".",
                isc_io_open_err);
     std::ifstream content(file, std::ios::binary);
     if (!std::filesystem::is_regular_file(status) || std::filesystem::file_size(file, error) < LeastPage ||
         (content && content.get() != HeaderPage))
-        refuse("O arquivo " + file.string() + " não é um banco de dados Firebird. Confira o caminho.",
+        refuse(file, "O arquivo " + file.string() + " não é um banco de dados Firebird. Confira o caminho.",
                isc_bad_db_format);
 }
 
@@ -106,7 +100,7 @@ Ref<Firebird::IAttachment> attach(const Target& target, ParameterBlock& block) {
         return provider->attachDatabase(status, target.text().c_str(), block.length(), block.buffer());
     }));
     if (target.embedded())
-        shareLockFiles(target.file());
+        settleLockFiles();
     return handle;
 }
 
@@ -137,6 +131,7 @@ Attachment Attachment::create(const Target& target) {
     Attachment created(Ref<Firebird::IAttachment>(call(AttachName, [&](auto* status) {
         return provider->createDatabase(status, target.text().c_str(), block.length(), block.buffer());
     })));
+    settleLockFiles();
     created.unsafeFile_ = target.text();
     Transaction transaction(created, TransactionMode::ReadWrite);
     execute(transaction, "ALTER CHARACTER SET ISO8859_1 SET DEFAULT COLLATION PT_BR", "colação do banco de dados");
