@@ -5,8 +5,8 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <random>
 #include <stdio.h>
-#include <sys/file.h>
 #include <unistd.h>
 
 namespace demo {
@@ -20,6 +20,14 @@ std::string Aspas(const fs::path& ACaminho) { return "\"" + ACaminho.string() + 
 [[noreturn]] void JaExiste(const fs::path& ADestino) {
     throw host::TFalha("O arquivo " + Aspas(ADestino) +
                        " já existe e não será substituído. Escolha outro nome ou remova-o antes.");
+}
+
+std::string NomeSorteado() {
+    std::random_device LSorte;
+    std::string LNome;
+    for (int I = 0; I < 10; ++I)
+        LNome += "abcdefghijklmnopqrstuvwxyz234567"[LSorte() % 32];
+    return LNome;
 }
 
 // Without overwriting, also where the file system knows no such rename.
@@ -36,8 +44,6 @@ int RenomearSemSubstituir(const fs::path& AOrigem, const fs::path& ADestino) {
 } // namespace
 
 TArquivoParcial::TArquivoParcial(fs::path ADestino) : FDestino(fs::absolute(ADestino).lexically_normal()) {
-    FParcial = FDestino;
-    FParcial += ".parcial";
     if (std::error_code LErro; fs::symlink_status(FDestino, LErro).type() != fs::file_type::not_found && !LErro)
         JaExiste(FDestino);
     const auto LPasta = FDestino.parent_path();
@@ -45,34 +51,18 @@ TArquivoParcial::TArquivoParcial(fs::path ADestino) : FDestino(fs::absolute(ADes
         throw host::TFalha("A pasta " + Aspas(LPasta) + " não existe. Crie-a ou escolha outro destino.");
     if (::access(LPasta.c_str(), W_OK | X_OK) != 0)
         throw host::TFalha("Não há permissão para gravar na pasta " + Aspas(LPasta) + ". Escolha outro destino.");
-    if (!RemoverSeLivre())
-        throw host::TFalha("O arquivo " + Aspas(FParcial) +
-                           " está sendo gravado por outro programa ou não pode ser removido. Aguarde ou remova-o.");
-}
-
-TArquivoParcial::~TArquivoParcial() {
-    if (!FEntregue)
-        RemoverSeLivre();
-}
-
-// The engine holds a lock on a file that it has open: one without a lock is nobody's. True when no file is left.
-bool TArquivoParcial::RemoverSeLivre() const {
-    const int LArquivo = ::open(FParcial.c_str(), O_RDWR | O_CLOEXEC | O_NOFOLLOW);
-    if (LArquivo < 0)
-        return errno == ENOENT;
-    const bool LRemovido = ::flock(LArquivo, LOCK_EX | LOCK_NB) == 0 && ::unlink(FParcial.c_str()) == 0;
-    ::close(LArquivo);
-    return LRemovido;
+    FParcial.emplace(FDestino.string() + "." + NomeSorteado() +
+                     ".parcial"); // the engine makes it, and only if it is new
 }
 
 void TArquivoParcial::Entregar() {
-    const int LErro = RenomearSemSubstituir(FParcial, FDestino);
+    const int LErro = RenomearSemSubstituir(Caminho(), FDestino);
     if (LErro == EEXIST)
         JaExiste(FDestino);
     if (LErro != 0)
         throw host::TFalha("Não foi possível dar ao banco de demonstração o nome " + Aspas(FDestino) + ": " +
                            std::strerror(LErro) + ".");
-    FEntregue = true;
+    FParcial->Soltar();
 }
 
 } // namespace demo

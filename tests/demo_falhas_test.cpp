@@ -1,6 +1,7 @@
 // What stops the making of the demo from outside: a full disk, a user who presses Ctrl-C.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -67,7 +68,8 @@ TEST_F(Programa, DiscoCheioNaoDeixaNadaPelaMetade) {
 
 TEST_F(Programa, InterromperCancelaENaoDeixaNadaPelaMetade) {
     const pid_t filho = Demo("10", 0);
-    while (!fs::exists(pasta_ / "demo.fdb.parcial"))
+    while (std::none_of(fs::directory_iterator(pasta_), fs::directory_iterator(),
+                        [](const auto& item) { return item.path().extension() == ".parcial"; }))
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     std::this_thread::sleep_for(std::chrono::milliseconds(300));
     ::kill(filho, SIGINT);

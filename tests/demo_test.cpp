@@ -40,6 +40,11 @@ class Demo : public testing::Test {
     }
     static std::int64_t number(const std::string& sql) { return std::stoll(value(sql)); }
 
+    static std::ptrdiff_t FilesNamed(const std::string& beginning) {
+        return std::count_if(fs::directory_iterator(folder), fs::directory_iterator(),
+                             [&](const auto& item) { return item.path().filename().string().starts_with(beginning); });
+    }
+
     // One sum over every column of every row of a table.
     static std::string checksum(const std::string& table, const std::string& file) {
         const auto row = value("SELECT LIST('COALESCE(CAST(' || TRIM(RDB$FIELD_NAME) || ' AS VARCHAR(1000)), ''~'')', "
@@ -155,7 +160,7 @@ TEST_F(Demo, AnExistingFileIsRefusedAndStaysAsItIs) {
     std::string content;
     std::getline(std::ifstream(target), content);
     EXPECT_EQ(content, "de outro");
-    EXPECT_FALSE(fs::exists(folder / "ocupado.fdb.parcial"));
+    EXPECT_EQ(1, FilesNamed("ocupado"));
     EXPECT_THROW(demo::Criar({folder / "pasta-ausente" / "demo.fdb", 1, {}}), host::TFalha);
 }
 
@@ -170,22 +175,23 @@ TEST_F(Demo, AStopAnywhereLeavesNoFile) {
                 throw host::Abort();
         };
         EXPECT_THROW(demo::Criar({folder / "parada.fdb", 1, stop}), host::Abort);
-        EXPECT_FALSE(fs::exists(folder / "parada.fdb"));
-        EXPECT_FALSE(fs::exists(folder / "parada.fdb.parcial"));
+        EXPECT_EQ(0, FilesNamed("parada"));
     }
 }
 
-// What a killed run left has no lock on it any more and is cleared away; a file being written stays its writer's.
-TEST_F(Demo, APartialFileIsRemovedOnlyIfNobodyWritesIt) {
-    std::ofstream(folder / "morta.fdb.parcial") << "resto";
-    EXPECT_NO_THROW(demo::Criar({folder / "morta.fdb", 1, {}}));
-    const auto second = [&](const std::string&, std::size_t AFeito, std::size_t) {
-        if (AFeito == 0) {
-            EXPECT_THROW(demo::Criar({folder / "disputada.fdb", 1, {}}), host::TFalha);
+// Each run writes a file of its own; who is done first wins, and a file that stood there is nobody's business.
+TEST_F(Demo, TwoRunsNeverWriteOneFile) {
+    std::ofstream(folder / "disputada.fdb.parcial") << "do usuario";
+    bool first = true;
+    const auto second = [&](const std::string&, std::size_t, std::size_t) {
+        if (std::exchange(first, false)) {
+            EXPECT_NO_THROW(demo::Criar({folder / "disputada.fdb", 1, {}}));
         }
     };
-    EXPECT_NO_THROW(demo::Criar({folder / "disputada.fdb", 1, second}));
-    EXPECT_TRUE(fs::exists(folder / "disputada.fdb"));
+    EXPECT_THROW(demo::Criar({folder / "disputada.fdb", 1, second}), host::TFalha);
+    EXPECT_EQ(2, FilesNamed("disputada"));
+    EXPECT_EQ(10U, fs::file_size(folder / "disputada.fdb.parcial"));
+    EXPECT_NO_THROW(fb::Attachment(fb::Target((folder / "disputada.fdb").string()), {}));
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "host/Depurador.h"
 
-#include "host/Falhas.h"
+#include "host/ArquivoInteiro.h"
 #include "host/Servicos.h"
 
 #include <filesystem>
@@ -22,11 +22,12 @@ void GravarParaDepuracao(const std::string& ANome, const std::string& ATexto) {
     const auto LPasta = GUtilSistema().BuscarPastaPadraoLogSistema();
     std::filesystem::create_directories(LPasta);
     const auto LArquivo = LPasta + ANome;
-    std::ofstream LSaida(LArquivo, std::ios::binary);
-    LSaida << ATexto;
-    LSaida.close();
-    if (!LSaida)
-        throw TFalha("Não foi possível gravar o arquivo de depuração " + LArquivo + ".");
+    GravarArquivoInteiro(LArquivo, [&](const auto& ACaminho) {
+        std::ofstream LSaida(ACaminho, std::ios::binary);
+        LSaida.exceptions(std::ios::failbit | std::ios::badbit);
+        LSaida << ATexto;
+        LSaida.close();
+    });
 }
 
 } // namespace host

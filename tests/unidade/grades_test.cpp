@@ -345,7 +345,8 @@ TEST_F(Leiautes, ArquivoDanificadoEhDitoIgnoradoENuncaPerdido) {
     EXPECT_EQ("segundo", Ler("meu.leiaute.danificado2"));
     EXPECT_EQ("orcreal-leiaute 1\nA visivel\nB oculta\nC visivel grupo 0\nD visivel\nfim\n", Ler("meu.leiaute"));
     EXPECT_EQ(Lista{"meu"}, leiaute.Leiautes()) << "what was moved aside is not a layout";
-    EXPECT_FALSE(std::filesystem::exists(Arquivo("meu.leiaute.parcial")));
+    const auto arquivos = std::filesystem::directory_iterator(Arquivo("meu.leiaute").parent_path());
+    EXPECT_EQ(3, std::distance(begin(arquivos), end(arquivos))) << "nothing of the writing stays";
 }
 
 TEST_F(Leiautes, PastaQueNaoServeNaoImpedeAJanela) {

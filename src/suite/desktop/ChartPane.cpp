@@ -1,5 +1,6 @@
 #include "suite/desktop/ChartPane.h"
 
+#include "host/ArquivoInteiro.h"
 #include "host/Falhas.h"
 #include "suite/desktop/ChartPainter.h"
 #include "suite/desktop/Failures.h"
@@ -13,6 +14,8 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPushButton>
+
+#include <system_error>
 
 namespace suite::desktop {
 
@@ -85,31 +88,34 @@ void ChartPane::update() {
 
 void ChartPane::paintEvent(QPaintEvent*) { QPainter(this).fillRect(rect(), palette().color(QPalette::Window)); }
 
-void ChartPane::save(const QString& file) const {
-    const auto refuse = [&] {
-        throw host::TFalha(
-            "Não foi possível gravar o gráfico em " + toUtf8(file) +
-            ". Verifique a pasta, a permissão e o espaço em disco; o nome deve terminar em .png ou .pdf.");
-    };
-    if (file.endsWith(".pdf", Qt::CaseInsensitive)) {
-        QPdfWriter writer(file);
-        writer.setPageSize(QPageSize(QPageSize::A4));
-        writer.setPageOrientation(QPageLayout::Landscape);
-        writer.setResolution(96);
-        QPainter painter;
-        if (!painter.begin(&writer))
-            refuse();
-        paintChart(painter, QRectF(0, 0, writer.width(), writer.height()), data_, paperPalette());
-        if (!painter.end())
-            refuse();
-        return;
-    }
+QImage ChartPane::picture() const {
     QImage picture(PictureSize, QImage::Format_RGB32);
     QPainter painter(&picture);
     paintChart(painter, picture.rect(), data_, paperPalette());
-    painter.end();
-    if (!picture.save(file, file.endsWith(".png", Qt::CaseInsensitive) ? "PNG" : nullptr))
-        refuse();
+    return picture;
+}
+
+bool ChartPane::writePdf(const QString& file) const {
+    QPdfWriter writer(file);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setPageOrientation(QPageLayout::Landscape);
+    writer.setResolution(96);
+    QPainter painter;
+    if (!painter.begin(&writer))
+        return false;
+    paintChart(painter, QRectF(0, 0, writer.width(), writer.height()), data_, paperPalette());
+    return painter.end();
+}
+
+void ChartPane::save(const QString& file) const {
+    const bool pdf = file.endsWith(".pdf", Qt::CaseInsensitive);
+    if (!pdf && !file.endsWith(".png", Qt::CaseInsensitive))
+        throw host::TFalha("O nome do arquivo do gráfico deve terminar em .png ou .pdf.");
+    host::GravarArquivoInteiro(toUtf8(file), [&](const std::filesystem::path& aside) {
+        const auto name = fromUtf8(aside.string());
+        if (!(pdf ? writePdf(name) : picture().save(name, "PNG")))
+            throw std::system_error(EIO, std::generic_category());
+    });
 }
 
 void ChartPane::askAndSave() {
@@ -124,12 +130,6 @@ void ChartPane::askAndSave() {
     }
 }
 
-void ChartPane::copy() {
-    QImage picture(PictureSize, QImage::Format_RGB32);
-    QPainter painter(&picture);
-    paintChart(painter, picture.rect(), data_, paperPalette());
-    painter.end();
-    QApplication::clipboard()->setImage(picture);
-}
+void ChartPane::copy() { QApplication::clipboard()->setImage(picture()); }
 
 } // namespace suite::desktop

@@ -32,6 +32,8 @@ class ChartPane : public QWidget {
     void update();
     void askAndSave();
     void copy();
+    QImage picture() const;
+    bool writePdf(const QString& file) const;
 
     GridPane* pane_ = nullptr;
     ChartData data_;

@@ -1,5 +1,6 @@
 #include "suite/desktop/GridPdf.h"
 
+#include "host/ArquivoInteiro.h"
 #include "host/Falhas.h"
 #include "suite/desktop/CellColours.h"
 #include "suite/desktop/CellPainter.h"
@@ -7,13 +8,12 @@
 #include "suite/desktop/GridView.h"
 #include "suite/desktop/Text.h"
 
-#include <QFile>
 #include <QFontInfo>
 #include <QPainter>
 #include <QPdfWriter>
 
 #include <algorithm>
-#include <filesystem>
+#include <system_error>
 
 namespace suite::desktop {
 
@@ -194,25 +194,16 @@ void writeGridPdf(const GridPane& pane, const QString& file, std::span<const std
         throw host::TFalha(
             "Uma figura em PDF tem no máximo 20.000 linhas. Filtre ou recolha as linhas, ou exporte para "
             "uma planilha.");
-    const auto partial = file + QStringLiteral(".parcial");
-    bool done = false;
-    {
-        QPdfWriter writer(partial);
+    host::GravarArquivoInteiro(toUtf8(file), [&](const std::filesystem::path& aside) {
+        QPdfWriter writer(fromUtf8(aside.string()));
         writer.setPageSize(QPageSize(QPageSize::A4));
         writer.setPageOrientation(QPageLayout::Landscape);
         writer.setPageMargins(Margins, QPageLayout::Millimeter);
         writer.setResolution(Resolution);
         writer.setTitle(title.empty() ? QString() : fromMessage(title.front()));
-        done = Picture(pane, writer, title).paint();
-    }
-    std::error_code error;
-    if (done)
-        std::filesystem::rename(toUtf8(partial), toUtf8(file), error);
-    if (done && !error)
-        return;
-    QFile::remove(partial);
-    throw host::TFalha("Não foi possível gravar " + toUtf8(file) +
-                       ". Verifique a pasta, a permissão e o espaço em disco.");
+        if (!Picture(pane, writer, title).paint())
+            throw std::system_error(EIO, std::generic_category());
+    });
 }
 
 } // namespace suite::desktop

@@ -1,5 +1,6 @@
 #include "suite/program/ConsultCommand.h"
 
+#include "host/ArquivoInteiro.h"
 #include "host/Falhas.h"
 #include "host/Grade.h"
 #include "host/Lookup.h"
@@ -9,7 +10,6 @@
 #include "suite/program/TableColumns.h"
 #include "suite/script/GridExport.h"
 #include "suite/script/Rows.h"
-#include "suite/script/WholeFile.h"
 
 #include <filesystem>
 #include <fstream>
@@ -57,7 +57,7 @@ void writeTable(std::ostream& out, const host::TGrade& grid, const std::vector<s
 void writeFile(const host::TGrade& grid, const ConsultOptions& options, const std::vector<std::string>& title) {
     if (options.format != "tabela")
         return script::exportGrid(grid, options.output, "." + options.format, title);
-    script::writeWhole(options.output, [&](const std::filesystem::path& file) {
+    host::GravarArquivoInteiro(options.output, [&](const std::filesystem::path& file) {
         std::ofstream out(file, std::ios::binary);
         out.exceptions(std::ios::failbit | std::ios::badbit);
         writeTable(out, grid, title, false);

@@ -1,7 +1,7 @@
 #include "suite/program/LayoutStore.h"
 
+#include "host/ArquivoInteiro.h"
 #include "host/Falhas.h"
-#include "suite/script/WholeFile.h"
 
 #include <algorithm>
 #include <charconv>
@@ -155,8 +155,8 @@ void LayoutStore::Gravar(const host::TDonoLeiautes& owner, const std::string& na
         host::TLeiaute former;
         if (std::filesystem::exists(file) && read(file, former) != Finding::Whole)
             moveAside(file);
-        script::writeWhole(file, [&](const path& partial) {
-            std::ofstream out(partial, std::ios::binary);
+        host::GravarArquivoInteiro(file, [&](const path& aside) {
+            std::ofstream out(aside, std::ios::binary);
             out.exceptions(std::ios::failbit | std::ios::badbit);
             out << textOf(layout);
             out.close();

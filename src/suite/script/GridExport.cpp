@@ -1,8 +1,8 @@
 #include "suite/script/GridExport.h"
 
+#include "host/ArquivoInteiro.h"
 #include "host/Falhas.h"
 #include "suite/script/GridParts.h"
-#include "suite/script/WholeFile.h"
 
 #include <algorithm>
 #include <fstream>
@@ -97,7 +97,7 @@ void exportGrid(const host::TGrade& grid, const path& file, std::string_view for
         throw host::TFalha("Não há dados para exportar. Faça antes uma seleção.");
     if (gridColumns(grid).empty())
         throw host::TFalha("Nenhuma coluna está à vista. Mostre ao menos uma antes de exportar.");
-    writeWhole(file, [&](const path& partial) { writer(grid, partial, title); });
+    host::GravarArquivoInteiro(file, [&](const path& aside) { writer(grid, aside, title); });
 }
 
 } // namespace suite::script
