@@ -5,6 +5,9 @@
 namespace suite::firebird {
 
 std::function<void(std::string_view name)> beforeCall;
+std::atomic<int> Status::alive{0};
+
+bool insideLibrary() noexcept { return Status::alive > 0; }
 
 Firebird::IMaster* master() {
     static Firebird::IMaster* const instance = Firebird::fb_get_master_interface();

@@ -2,6 +2,7 @@
 
 #include <firebird/Interface.h>
 
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <string>
@@ -28,19 +29,27 @@ using Disposable = std::unique_ptr<T, Dispose>;
 
 Firebird::IMaster* master();
 
-// The status of one call or of a run of calls on one object.
+// The status of one call or of a run of calls on one object; it lives no longer than they.
 class Status {
   public:
-    Status() : owned_(master()->getStatus()), wrapper_(owned_.get()) {}
+    Status() : owned_(master()->getStatus()), wrapper_(owned_.get()) { ++alive; }
+    ~Status() { --alive; }
+    Status(const Status&) = delete;
+    Status& operator=(const Status&) = delete;
     Firebird::CheckStatusWrapper* get() { return &wrapper_; }
     bool failed() const { return (wrapper_.getState() & Firebird::IStatus::STATE_ERRORS) != 0; }
     // Raises host::TFalhaBanco under the statement's name if the last call failed.
     void check(std::string_view name);
 
   private:
+    friend bool insideLibrary() noexcept;
+    static std::atomic<int> alive;
     Disposable<Firebird::IStatus> owned_;
     Firebird::CheckStatusWrapper wrapper_;
 };
+
+// Whether some thread is in a call of the client library: a crash, or a wait without an end, is then the library's.
+bool insideLibrary() noexcept;
 
 // Where set, runs before every call that can fail. Tests make the n-th call fail here.
 extern std::function<void(std::string_view name)> beforeCall;

@@ -68,6 +68,7 @@ ExitCode runOnDatabase(const Options& options, Interrupt& interrupt) {
     const firebird::Target target(databaseOf(options, interrupt));
     firebird::Connection connection(target, options.credentials);
     interrupt.onRequest([&] { connection.attachment().cancel(); });
+    interrupt.boundWaits(target.embedded());
     struct Detach {
         Interrupt& interrupt;
         ~Detach() { interrupt.onRequest({}); }
@@ -124,11 +125,15 @@ ExitCode run(int argc, const char* const* argv) {
     Interrupt interrupt;
     try {
         const auto line = parseCommandLine(argc, argv, versionText());
-        if (!line.options) {
-            (line.failed ? std::cerr : std::cout) << line.text;
-            return line.failed ? ExitCode::WrongUse : ExitCode::Done;
+        if (line.failed) {
+            std::cerr << line.text;
+            return ExitCode::WrongUse;
         }
-        return runCommand(*line.options, interrupt);
+        std::cout << line.text;
+        const auto code = line.options ? runCommand(*line.options, interrupt) : ExitCode::Done;
+        if (!std::cout.flush() && code == ExitCode::Done)
+            throw host::TFalha("Não foi possível escrever o resultado na saída.");
+        return code;
     } catch (const Cancelled&) {
         std::cerr << "A operação foi cancelada; nada ficou pela metade.\n";
         return ExitCode::Cancelled;
