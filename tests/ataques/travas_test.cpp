@@ -85,6 +85,23 @@ TEST_F(Travas, TodosOsCaminhosDoBancoTemAsMesmas) {
     EXPECT_FALSE(fs::exists(raiz / "outra" / ".orcreal-lock"));
 }
 
+TEST_F(Travas, CadaBancoDeUmProcessoTemAsSuas) {
+    const suite::firebird::Attachment primeiro(suite::firebird::Target(banco.string()), {});
+    fs::create_directory(raiz / "outra");
+    const auto outro = copiar(raiz / "outra" / "b.fdb");
+    const auto arquivos = [](const fs::path& onde) {
+        return std::distance(fs::directory_iterator(onde / ".orcreal-lock"), fs::directory_iterator());
+    };
+    {
+        const suite::firebird::Attachment segundo(suite::firebird::Target(outro.string()), {});
+        EXPECT_GE(arquivos(pasta), 2) << "locks and monitor of the first";
+        EXPECT_GE(arquivos(raiz / "outra"), 2) << "and of the second";
+        EXPECT_EQ(3, rodar(consulta(outro)).codigo) << "opened here";
+    }
+    EXPECT_EQ(3, rodar(consulta(banco)).codigo) << "still opened here";
+    EXPECT_EQ(0, rodar(consulta(outro)).codigo);
+}
+
 TEST_F(Travas, OAdministradorNaoDeixaODonoDeFora) {
     if (!podeMudarDeUsuario())
         GTEST_SKIP() << "only root can become another user";

@@ -95,6 +95,8 @@ pid_t IniciarPrograma(const std::string& alvo, const fs::path& pastaLog, const f
         return filho;
     ::dup2(::open("/dev/null", O_WRONLY), STDOUT_FILENO);
     ::dup2(::open(erros.c_str(), O_CREAT | O_TRUNC | O_WRONLY, 0600), STDERR_FILENO);
+    if (observado)
+        ::setenv("ASAN_OPTIONS", "detect_leaks=0", 1); // the leak checker wants to be the only one who traces
     if (observado && ::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0)
         ::_exit(126);
     ::execl(ORCREAL_PROGRAMA, "orcreal", "--banco", alvo.c_str(), "--pasta-log", pastaLog.c_str(), "consultar",

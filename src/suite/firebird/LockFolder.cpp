@@ -60,8 +60,7 @@ class LockFolder {
         checkMode();
         forEachFile([&](const char* name, const struct stat& status) { checkFile(name, status); });
         checkSpace();
-        // By its descriptor, nobody can put another folder in its place; and its name may have any letter.
-        ::setenv("FIREBIRD_LOCK", ("/proc/self/fd/" + std::to_string(folder_.get())).c_str(), 1);
+        pointEngine();
     }
 
     void settle() const {
@@ -81,7 +80,7 @@ class LockFolder {
 
   private:
     Descriptor openParent(const path& database) const {
-        Descriptor parent(::open(database.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        Descriptor parent(::open(database.parent_path().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
         if (!parent)
             refuse(path_, "Não foi possível abrir a pasta do banco de dados, " + database.parent_path().string() +
                               ". Confira o caminho e as permissões.");
@@ -125,6 +124,19 @@ class LockFolder {
     std::string fullDisk() const {
         return "Não há espaço no disco do banco de dados para as travas em " + path_.string() +
                ". Libere espaço e tente novamente; nada foi alterado.";
+    }
+
+    // The engine reads the setting once a process, so that it names a descriptor, which can be turned to another
+    // folder. By a descriptor, too, nobody can put another folder in this one's place, and its name may have any
+    // letter.
+    void pointEngine() const {
+        static int pointer = -1;
+        if (pointer >= 0) {
+            ::dup3(folder_.get(), pointer, O_CLOEXEC);
+            return;
+        }
+        pointer = ::fcntl(folder_.get(), F_DUPFD_CLOEXEC, 0);
+        ::setenv("FIREBIRD_LOCK", ("/proc/self/fd/" + std::to_string(pointer)).c_str(), 1);
     }
 
     void checkOwner() {
@@ -191,7 +203,7 @@ class LockFolder {
     Descriptor folder_;
 };
 
-std::optional<LockFolder> inUse; // from the first database to the end of the process
+std::optional<LockFolder> inUse; // of the database opened last
 
 } // namespace
 
@@ -204,10 +216,7 @@ path realFile(const path& database) {
     return absent ? database : folder / database.filename();
 }
 
-void useLockFolder(const path& database) {
-    if (!inUse)
-        inUse.emplace(realFile(database));
-}
+void useLockFolder(const path& database) { inUse.emplace(realFile(database)); }
 
 void settleLockFiles() {
     if (inUse)

@@ -12,12 +12,12 @@ std::filesystem::path realFile(const std::filesystem::path& database);
 // owner's of the database, or where the database's folder is kept by a group (setgid, written by the group) that
 // group's.
 
-// Makes that folder, or checks the one that is there, and points the engine at it. The engine reads the setting once a
-// process: the first database decides. Throws host::TFalhaBanco with the sentence that says what is wrong.
+// Makes that folder, or checks the one that is there, and points the engine at it, to be called before each attach.
+// Throws host::TFalhaBanco with the sentence that says what is wrong.
 void useLockFolder(const std::filesystem::path& database);
 
-// Gives the engine's files to whom the database belongs, whoever runs this, and takes their whole size from the disk:
-// the engine maps them, and a page that finds no place on a full disk ends the process.
+// After it: gives the engine's files to whom the database belongs, whoever runs this, and takes their whole size from
+// the disk: the engine maps them, and a page that finds no place on a full disk ends the process.
 void settleLockFiles();
 
 } // namespace suite::firebird

@@ -42,9 +42,12 @@ extern "C" void onCrash(int number) {
 }
 
 void catchCrashes() {
+    static char stack[64 * 1024]; // a walk over damaged pages may end by having used up the thread's own
+    const stack_t apart{stack, 0, sizeof stack};
+    ::sigaltstack(&apart, nullptr);
     struct sigaction action {};
     action.sa_handler = onCrash;
-    action.sa_flags = SA_NODEFER;
+    action.sa_flags = SA_NODEFER | SA_ONSTACK;
     for (const int number : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT})
         ::sigaction(number, &action, nullptr);
 }

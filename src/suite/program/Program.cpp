@@ -66,9 +66,9 @@ std::string databaseOf(const Options& options, Interrupt& interrupt) {
 
 ExitCode runOnDatabase(const Options& options, Interrupt& interrupt) {
     const firebird::Target target(databaseOf(options, interrupt));
+    interrupt.boundWaits(target.embedded());
     firebird::Connection connection(target, options.credentials);
     interrupt.onRequest([&] { connection.attachment().cancel(); });
-    interrupt.boundWaits(target.embedded());
     struct Detach {
         Interrupt& interrupt;
         ~Detach() { interrupt.onRequest({}); }
