@@ -102,11 +102,18 @@ TEST(BarraProgresso, ContaTudoAoHospedeiroEFechaNaFalha) {
     EXPECT_EQ(host::TEventoProgresso::TTipo::Fechar, interacao.progresso.back().Tipo);
 }
 
-TEST(Headless, PerguntaSemRespostaEhFalha) {
+TEST(Headless, PerguntaSemRespostaEhFalhaEAFalhaDoBancoMostraSuaCausa) {
     std::ostringstream erro;
     suite::script::Headless interacao(erro, false);
     EXPECT_EQ(6, interacao.Mensagem({host::TNivelMensagem::Informacao, "", "linha\rseguinte", {"OK"}, 6}));
     EXPECT_EQ("linha\nseguinte\n", erro.str());
+    EXPECT_FALSE(interacao.failure());
+    const host::TFalhaBanco causa(host::TTipoFalhaBanco::Bloqueio, "Ocupado.", "40001", {7}, "Reservar", "a\nb\x1B");
+    interacao.Mensagem({host::TNivelMensagem::Erro, "", "Erros : Ocupado.", {"OK"}, 6, causa});
+    EXPECT_NE(std::string::npos,
+              erro.str().find("Erros : Ocupado.\n(SQLSTATE 40001, instrução Reservar, códigos 7: a\nb␛)\n"))
+        << erro.str();
+    EXPECT_EQ(host::TTipoFalhaBanco::Bloqueio, interacao.failure()->Tipo());
     EXPECT_THROW(interacao.Mensagem({host::TNivelMensagem::Confirmacao, "", "Sim?", {"Sim", "Não"}, 6}), host::TFalha);
     interacao.Progresso({host::TEventoProgresso::TTipo::Texto, 0, "texto", 0});
     EXPECT_EQ(std::string::npos, erro.str().find("texto")) << "no progress outside a terminal";

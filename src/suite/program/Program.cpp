@@ -3,6 +3,7 @@
 #include "demo/Demo.h"
 #include "host/Falhas.h"
 #include "host/Servicos.h"
+#include "host/Texto.h"
 #include "suite/firebird/Connection.h"
 #include "suite/program/ConsultCommand.h"
 #include "suite/program/DesktopCommand.h"
@@ -111,11 +112,11 @@ ExitCode runCommand(const Options& options, Interrupt& interrupt) {
 }
 
 ExitCode report(const host::TFalhaBanco& failure) {
-    std::cerr << failure.what() << "\n";
-    if (failure.Tipo() == host::TTipoFalhaBanco::Cancelado)
-        return ExitCode::Cancelled;
-    std::cerr << "(" << failure.Diagnostico() << ")\n";
-    return ExitCode::DatabaseFailure;
+    std::cerr << host::LinhasSemControles(failure.what()) << "\n";
+    const auto code = exitCodeOf(failure);
+    if (code == ExitCode::DatabaseFailure)
+        std::cerr << "(" << host::LinhasSemControles(failure.Diagnostico()) << ")\n";
+    return code;
 }
 
 } // namespace
@@ -125,7 +126,7 @@ ExitCode run(int argc, const char* const* argv) {
     try {
         const auto line = parseCommandLine(argc, argv, versionText());
         if (!line.options) {
-            (line.failed ? std::cerr : std::cout) << line.text;
+            (line.failed ? std::cerr : std::cout) << host::LinhasSemControles(line.text);
             return line.failed ? ExitCode::WrongUse : ExitCode::Done;
         }
         return runCommand(*line.options, interrupt);
@@ -135,10 +136,11 @@ ExitCode run(int argc, const char* const* argv) {
     } catch (const host::TFalhaBanco& failure) {
         return report(failure);
     } catch (const host::TFalha& failure) {
-        std::cerr << failure.what() << "\n";
+        std::cerr << host::LinhasSemControles(failure.what()) << "\n";
         return ExitCode::Refused;
     } catch (const std::exception& fault) {
-        std::cerr << "O programa encontrou uma falha interna e parou: " << fault.what() << "\n";
+        std::cerr << "O programa encontrou uma falha interna e parou: " << host::LinhasSemControles(fault.what())
+                  << "\n";
         return ExitCode::Refused;
     }
 }
