@@ -131,3 +131,16 @@ TEST(Modulo, RegistraSuaClasseEnquantoCarregado) {
     EXPECT_FALSE(host::FindClass("TForm04618")) << "unloading unregisters";
     EXPECT_THROW(suite::program::Module("/nada/Pct04618.so"), host::TFalha);
 }
+
+TEST(Modulo, ArquivoQueNaoEhModuloEhRecusadoEUmSemTextosSuportado) {
+    const std::string pasta = ORCREAL_MODULOS "/";
+    for (const char* nome : {"modulo_nulo.so", "modulo_dado.so"})
+        try {
+            const suite::program::Module modulo(pasta + nome);
+            FAIL() << nome;
+        } catch (const host::TFalha& falha) {
+            EXPECT_EQ("O arquivo " + pasta + nome + " não é um módulo deste programa.", falha.what());
+        }
+    EXPECT_EQ(":  (banco de dados a partir da versão )",
+              suite::program::Module(pasta + "modulo_calado.so").description());
+}

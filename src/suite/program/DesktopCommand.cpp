@@ -113,7 +113,7 @@ desktop::DesktopProgram desktopProgram(const Options& options, const std::string
     return program;
 }
 
-ExitCode runDesktopCommand(const Options& options, const std::string& version, Interrupt& interrupt) {
+ExitCode runDesktopCommand(const Options& options, Interrupt& interrupt) {
     if (!desktop::hasDisplay())
         throw host::TFalha(NoDisplay);
     const Module module(moduleFile());
@@ -122,7 +122,7 @@ ExitCode runDesktopCommand(const Options& options, const std::string& version, I
         Interrupt& interrupt;
         ~Detach() { interrupt.onRequest({}); }
     } const detach{interrupt};
-    desktop::runDesktop(desktopProgram(options, version));
+    desktop::runDesktop(desktopProgram(options, versionText(&module)));
     return interrupt.requested() ? ExitCode::Cancelled : ExitCode::Done;
 }
 

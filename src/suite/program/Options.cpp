@@ -126,7 +126,7 @@ void addConsultOptions(CLI::App& command, ConsultOptions& options) {
 
 std::filesystem::path defaultDemoFile() { return userFolder("XDG_DATA_HOME", ".local/share") / "demonstracao.fdb"; }
 
-ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string& version) {
+ParsedLine parseCommandLine(int argc, const char* const* argv, const std::function<std::string()>& version) {
     Options options;
     std::string passwordFile;
     ConsultOptions consult;
@@ -193,8 +193,8 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
         return {{}, app.help(), false}; // of the command, where one stands before it
-    } catch (const CLI::CallForVersion&) {
-        return {{}, version + "\n", false};
+    } catch (const CLI::CallForVersion& called) {
+        return {{}, std::string(called.what()) + "\n", false};
     } catch (const CLI::ExtrasError& error) {
         return wrongUse("Opção ou comando desconhecido: " + behind(error.what(), ": "));
     } catch (const CLI::FileError&) {

@@ -3,6 +3,7 @@
 #include "suite/firebird/Target.h"
 #include "suite/program/Login.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -60,8 +61,8 @@ struct ParsedLine {
     bool failed = false;
 };
 
-// Throws host::TFalha when the password file cannot be read.
-ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string& version);
+// The version is asked for only where the line does. Throws host::TFalha when the password file cannot be read.
+ParsedLine parseCommandLine(int argc, const char* const* argv, const std::function<std::string()>& version);
 
 // Where the demo database of this user lives.
 std::filesystem::path defaultDemoFile();

@@ -96,11 +96,14 @@ ExitCode runOnDatabase(const Options& options, Interrupt& interrupt) {
     return code != ExitCode::Done && interrupt.requested() ? ExitCode::Cancelled : code;
 }
 
-std::string versionText() {
-    const Module module(moduleFile());
-    const auto& information = module.information();
-    return "orcreal " ORCREAL_VERSAO "\n" + std::string(information.Nome) + ": " + std::string(information.Descricao) +
-           " (banco de dados a partir da versão " + std::string(module.versionRecord("MinVersionDatabase")) + ")";
+std::string versionOfAll() {
+    try {
+        const Module module(moduleFile());
+        return versionText(&module);
+    } catch (const host::TFalha& failure) {
+        std::cerr << host::LinhasSemControles(failure.what()) << "\n";
+        return versionText(nullptr);
+    }
 }
 
 ExitCode runCommand(const Options& options, Interrupt& interrupt) {
@@ -108,7 +111,7 @@ ExitCode runCommand(const Options& options, Interrupt& interrupt) {
         return runDemo(*options.demo, interrupt);
     if (options.consult || options.script || options.verify)
         return runOnDatabase(options, interrupt);
-    return runDesktopCommand(options, versionText(), interrupt);
+    return runDesktopCommand(options, interrupt);
 }
 
 ExitCode report(const host::TFalhaBanco& failure) {
@@ -124,7 +127,7 @@ ExitCode report(const host::TFalhaBanco& failure) {
 ExitCode run(int argc, const char* const* argv) {
     Interrupt interrupt;
     try {
-        const auto line = parseCommandLine(argc, argv, versionText());
+        const auto line = parseCommandLine(argc, argv, versionOfAll);
         if (!line.options) {
             (line.failed ? std::cerr : std::cout) << host::LinhasSemControles(line.text);
             return line.failed ? ExitCode::WrongUse : ExitCode::Done;
