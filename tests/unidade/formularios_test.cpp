@@ -3,6 +3,7 @@
 #include "host/Falhas.h"
 #include "host/Registro.h"
 #include "suite/program/Module.h"
+#include "suite/program/UserFolder.h"
 #include "suite/script/FormDriver.h"
 #include "suite/script/Headless.h"
 
@@ -143,4 +144,13 @@ TEST(Modulo, ArquivoQueNaoEhModuloEhRecusadoEUmSemTextosSuportado) {
         }
     EXPECT_EQ(":  (banco de dados a partir da versão )",
               suite::program::Module(pasta + "modulo_calado.so").description());
+}
+
+TEST(PastaDoUsuario, HomeIncompletaNaoContaESemNenhumaHaUmaFrase) {
+    using suite::program::chooseHome;
+    EXPECT_EQ("/casa", chooseHome("/casa", "/conta"));
+    for (const char* home : {static_cast<const char*>(nullptr), "", "casa", "./casa"})
+        EXPECT_EQ("/conta", chooseHome(home, "/conta"));
+    for (const char* conta : {static_cast<const char*>(nullptr), "", "conta"})
+        EXPECT_THROW(chooseHome("casa", conta), host::TFalha);
 }

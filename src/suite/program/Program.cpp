@@ -46,7 +46,7 @@ void makeDemo(const std::filesystem::path& file, int scale, Interrupt& interrupt
 ExitCode runDemo(const DemoOptions& options, Interrupt& interrupt) {
     const auto file = options.destination.empty() ? defaultDemoFile() : std::filesystem::path(options.destination);
     if (options.destination.empty())
-        std::filesystem::create_directories(file.parent_path());
+        makeFolder(file.parent_path());
     makeDemo(file, options.scale, interrupt);
     std::cout << "Banco de demonstração criado em " << std::filesystem::absolute(file).string() << "\n";
     return ExitCode::Done;
@@ -57,8 +57,8 @@ std::string databaseOf(const Options& options, Interrupt& interrupt) {
     if (!options.database.empty())
         return options.database;
     const auto file = defaultDemoFile();
+    makeFolder(file.parent_path());
     if (!std::filesystem::exists(file)) {
-        std::filesystem::create_directories(file.parent_path());
         std::cerr << "Criando o banco de demonstração em " << file.string() << "\n";
         makeDemo(file, 1, interrupt);
     }
@@ -86,8 +86,9 @@ ExitCode runOnDatabase(const Options& options, Interrupt& interrupt) {
     services.EmpresaLogada = &login;
     services.Contabil = &login;
     services.Sistema = &login;
-    LayoutStore layouts(userFolder("XDG_DATA_HOME", ".local/share") / "leiautes");
-    services.Leiautes = &layouts;
+    LayoutStore layouts(layoutFolder);
+    if (options.script) // a single consultation chooses no layout
+        services.Leiautes = &layouts;
     const host::TInstalacaoServicos loggedIn(services);
     const Module module(moduleFile());
     const auto stop = [&] { return interrupt.requested(); };
