@@ -480,7 +480,7 @@ TEST(Servicos, ArquivoProtegidoEConexaoCortadaNaAberturaDizemOQueFazer) {
     for (const char* resposta : {"", "HTTP/1.1 400 Bad Request\r\n\r\n"}) {
         const ServidorEstranho servidor(resposta);
         const auto cortada = Falha([&] { Attachment{Target(servidor.alvo()), {"SYSDBA", "x"}}; });
-        EXPECT_EQ(Inalcancavel, cortada.what()) << cortada.Diagnostico();
+        EXPECT_STREQ(Inalcancavel, cortada.what()) << cortada.Diagnostico();
         EXPECT_EQ(TTipoFalhaBanco::Conexao, cortada.Tipo());
     }
 }
