@@ -3,8 +3,11 @@
 //   # what the case shows
 //   [base] vazia | demo | nenhuma
 //   [dados] FILE        SQL run before the commands: a file beside the cases, if named, and what follows
+//   [ambiente] N=V      a variable of the commands that follow; without "=" there is none of that name
+//   [preparo] ...       a line of the shell before the command that follows
+//   [programa] FILE     what the commands that follow run in place of the program
 //   [comando] ...       one command line; @BANCO@ is the database, @PASTA@ a folder of the case,
-//                       @CASOS@ the folder of the case files
+//                       @CASOS@ the folder of the case files, @BIN@ that of the program
 //   [saida] [erro]      what it prints; absent: nothing. "..." alone on a line stands for any lines
 //   [codigo] N
 //   [arquivo] NOME      the text of a file that the command wrote into the folder
@@ -26,6 +29,9 @@ namespace fs = std::filesystem;
 
 struct Comando {
     std::string linha;
+    std::string programa;
+    std::vector<std::string> ambiente;
+    std::vector<std::string> preparo;
     std::string saida;
     std::string erro;
     std::optional<int> codigo;
@@ -48,6 +54,7 @@ std::string ler(const fs::path& arquivo) {
 Caso lerCaso(const fs::path& arquivo) {
     Caso caso;
     std::string* secao = nullptr;
+    Comando proximo;
     std::istringstream texto(ler(arquivo));
     for (std::string linha; std::getline(texto, linha);) {
         std::smatch partes;
@@ -66,7 +73,15 @@ Caso lerCaso(const fs::path& arquivo) {
                 caso.dados = ler(arquivo.parent_path() / resto);
             secao = &caso.dados;
         } else if (nome == "comando") {
-            caso.comandos.push_back({resto, {}, {}, {}, {}});
+            proximo.linha = resto;
+            caso.comandos.push_back(proximo);
+            proximo.preparo.clear();
+            secao = nullptr;
+        } else if (nome == "ambiente" || nome == "preparo") {
+            (nome == "preparo" ? proximo.preparo : proximo.ambiente).push_back(resto);
+            secao = nullptr;
+        } else if (nome == "programa") {
+            proximo.programa = resto;
             secao = nullptr;
         } else if (caso.comandos.empty()) {
             throw std::runtime_error("[" + nome + "] before a command");
@@ -114,13 +129,21 @@ bool confere(std::istringstream esperado, std::istringstream obtido) {
     return resto(0, 0);
 }
 
-int executar(const std::string& linha, const fs::path& saida, const fs::path& erro) {
+// The command is complete: what stands in it for files of the case has been put in.
+int executar(const Comando& comando, const fs::path& saida, const fs::path& erro) {
     const pid_t filho = ::fork();
     if (filho == 0) {
         ::dup2(::open(saida.c_str(), O_CREAT | O_TRUNC | O_WRONLY, 0600), STDOUT_FILENO);
         ::dup2(::open(erro.c_str(), O_CREAT | O_TRUNC | O_WRONLY, 0600), STDERR_FILENO);
-        const std::string comando = "exec '" ORCREAL_PROGRAMA "' " + linha;
-        ::execl("/bin/sh", "sh", "-c", comando.c_str(), nullptr);
+        for (const auto& variavel : comando.ambiente) {
+            const auto igual = variavel.find('=');
+            if (igual == std::string::npos)
+                ::unsetenv(variavel.c_str());
+            else
+                ::setenv(variavel.substr(0, igual).c_str(), variavel.substr(igual + 1).c_str(), 1);
+        }
+        const std::string linha = "exec '" + comando.programa + "' " + comando.linha;
+        ::execl("/bin/sh", "sh", "-c", linha.c_str(), nullptr);
         ::_exit(127);
     }
     int estado = 0;
@@ -146,14 +169,25 @@ class TesteDeCaso : public testing::Test {
         for (const char* tela : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) // cases are of the terminal
             ::unsetenv(tela);
         ::setenv("ORCREAL_SENHA", apoio::credenciais().password.c_str(), 1);
-        const auto preencher = [&](const std::string& texto) {
-            return trocar(trocar(trocar(texto, "@BANCO@", copia ? copia->alvo() : "-"), "@PASTA@", pasta.string()),
-                          "@CASOS@", ORCREAL_CASOS);
+        const auto preencher = [&](std::string texto) {
+            for (const auto& [marca, valor] :
+                 {std::pair<std::string, std::string>{"@BANCO@", copia ? copia->alvo() : "-"},
+                  {"@PASTA@", pasta.string()},
+                  {"@CASOS@", ORCREAL_CASOS},
+                  {"@BIN@", fs::path(ORCREAL_PROGRAMA).parent_path().string()}})
+                texto = trocar(texto, marca, valor);
+            return texto;
         };
-        for (const auto& comando : caso.comandos) {
+        for (auto comando : caso.comandos) {
             SCOPED_TRACE(comando.linha);
             ASSERT_TRUE(comando.codigo) << "no [codigo] expected";
-            const int codigo = executar(preencher(comando.linha), pasta / ".saida", pasta / ".erro");
+            comando.linha = preencher(comando.linha);
+            comando.programa = comando.programa.empty() ? ORCREAL_PROGRAMA : preencher(comando.programa);
+            for (auto& variavel : comando.ambiente)
+                variavel = preencher(variavel);
+            for (const auto& linha : comando.preparo)
+                ASSERT_EQ(0, std::system(preencher(linha).c_str())) << linha;
+            const int codigo = executar(comando, pasta / ".saida", pasta / ".erro");
             comparar(preencher(comando.saida), ler(pasta / ".saida"), "saida");
             comparar(preencher(comando.erro), ler(pasta / ".erro"), "erro");
             EXPECT_EQ(*comando.codigo, codigo);

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "host/Colunas.h"
+#include "host/Falhas.h"
 
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -53,7 +55,8 @@ class HOST_API TSQLConnection {
 
 struct HOST_API TResultStatus {
     bool Sucesso = true;
-    std::string Mensagem; // why not, for the user
+    std::string Mensagem;                  // why not, for the user
+    std::optional<TFalhaBanco> Causa = {}; // where it was the database that failed
 };
 
 // The suite's database connection.

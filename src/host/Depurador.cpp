@@ -20,7 +20,8 @@ void GravarParaDepuracao(const std::string& ANome, const std::string& ATexto) {
     if (!ProcessoSobDepurador())
         return;
     const auto LPasta = GUtilSistema().BuscarPastaPadraoLogSistema();
-    std::filesystem::create_directories(LPasta);
+    std::error_code LIgnorado; // the file that cannot be written tells it
+    std::filesystem::create_directories(LPasta, LIgnorado);
     const auto LArquivo = LPasta + ANome;
     GravarArquivoInteiro(LArquivo, [&](const auto& ACaminho) {
         std::ofstream LSaida(ACaminho, std::ios::binary);

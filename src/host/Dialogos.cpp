@@ -21,8 +21,8 @@ void TZTUtilsDialogs::Informacao(const std::string& ATexto) const {
     Servicos().Interacao->Mensagem({TNivelMensagem::Informacao, "Informação:", ATexto, {"OK"}, 6});
 }
 
-void TZTUtilsDialogs::Erro(const std::string& ATexto) const {
-    Servicos().Interacao->Mensagem({TNivelMensagem::Erro, "Erro:", ATexto, {"OK"}, 6});
+void TZTUtilsDialogs::Erro(const std::string& ATexto, const std::optional<TFalhaBanco>& ACausa) const {
+    Servicos().Interacao->Mensagem({TNivelMensagem::Erro, "Erro:", ATexto, {"OK"}, 6, ACausa});
 }
 
 int TZTUtilsDialogs::Confirmacao(const std::string& ATexto, int ATipoBotao, const std::string& ATitulo) const {

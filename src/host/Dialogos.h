@@ -8,7 +8,8 @@ namespace host {
 class HOST_API TZTUtilsDialogs {
   public:
     void Informacao(const std::string& ATexto) const;
-    void Erro(const std::string& ATexto) const;
+    // With the failure of the database that it tells of, where it is one.
+    void Erro(const std::string& ATexto, const std::optional<TFalhaBanco>& ACausa = {}) const;
     // A question with the buttons of that type.
     int Confirmacao(const std::string& ATexto, int ATipoBotao, const std::string& ATitulo) const;
     // Buttons by their captions. Returns 6, 7 or 2 for the first, second or third.

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "host/Exportar.h"
+#include "host/Falhas.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,7 +20,8 @@ struct HOST_API TMensagem {
     std::string Titulo;
     std::string Texto; // line breaks are carriage returns
     std::vector<std::string> Botoes;
-    int Padrao = 6; // result code of the default button
+    int Padrao = 6;                        // result code of the default button
+    std::optional<TFalhaBanco> Causa = {}; // of the database, where the message tells of its failure
 };
 
 struct HOST_API TEventoProgresso {

@@ -1,5 +1,6 @@
 #include "host/Texto.h"
 
+#include <algorithm>
 #include <charconv>
 #include <stdexcept>
 #include <vector>
@@ -69,6 +70,58 @@ std::string Trim(std::string_view ATexto) {
     if (LInicio == std::string_view::npos)
         return {};
     return std::string(ATexto.substr(LInicio, ATexto.find_last_not_of(Brancos) - LInicio + 1));
+}
+
+std::size_t TamanhoDoCaractere(std::string_view AUtf8) {
+    if (AUtf8.empty())
+        return 0;
+    const auto LByte = [&](std::size_t I) { return static_cast<unsigned char>(AUtf8[I]); };
+    const std::size_t LTamanho = LByte(0) < 0x80                       ? 1
+                                 : LByte(0) >= 0xC2 && LByte(0) < 0xE0 ? 2
+                                 : LByte(0) >= 0xE0 && LByte(0) < 0xF0 ? 3
+                                 : LByte(0) >= 0xF0 && LByte(0) < 0xF5 ? 4
+                                                                       : 0;
+    if (LTamanho > AUtf8.size())
+        return 0;
+    for (std::size_t I = 1; I < LTamanho; ++I)
+        if ((LByte(I) & 0xC0U) != 0x80)
+            return 0;
+    // Written longer than need be, a surrogate, or beyond the last one.
+    const bool LErrado = (LByte(0) == 0xE0 && LByte(1) < 0xA0) || (LByte(0) == 0xED && LByte(1) >= 0xA0) ||
+                         (LByte(0) == 0xF0 && LByte(1) < 0x90) || (LByte(0) == 0xF4 && LByte(1) >= 0x90);
+    return LErrado ? 0 : LTamanho;
+}
+
+std::string SemControles(std::string_view ATexto) {
+    constexpr const char* Substituto = "\uFFFD";
+    std::string LTexto;
+    LTexto.reserve(ATexto.size());
+    while (!ATexto.empty()) {
+        const auto LTamanho = TamanhoDoCaractere(ATexto);
+        const auto LByte = static_cast<unsigned char>(ATexto.front());
+        if (LTamanho == 1 && LByte < 0x20)
+            LTexto += {'\xE2', '\x90', static_cast<char>(0x80 + LByte)}; // U+2400 and on
+        else if (LTamanho == 1 && LByte == 0x7F)
+            LTexto += "\u2421";
+        else if (LTamanho == 0 || (LByte == 0xC2 && static_cast<unsigned char>(ATexto[1]) < 0xA0)) // U+0080 to U+009F
+            LTexto += Substituto;
+        else
+            LTexto += ATexto.substr(0, LTamanho);
+        ATexto.remove_prefix(std::max<std::size_t>(LTamanho, 1));
+    }
+    return LTexto;
+}
+
+std::string LinhasSemControles(std::string_view ATexto) {
+    std::string LTexto;
+    while (true) {
+        const auto LFim = std::min(ATexto.find_first_of("\r\n"), ATexto.size());
+        LTexto += SemControles(ATexto.substr(0, LFim));
+        if (LFim == ATexto.size())
+            return LTexto;
+        LTexto += '\n';
+        ATexto.remove_prefix(LFim + (ATexto.substr(LFim, 2) == "\r\n" ? 2 : 1));
+    }
 }
 
 std::int32_t NumeroOuZero(std::string_view ATexto) {

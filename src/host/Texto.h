@@ -20,6 +20,13 @@ HOST_API std::string Format(std::string_view ATexto, std::initializer_list<TArgu
 // The text as a SQL literal, quotes included.
 HOST_API std::string QuotedStr(std::string_view ATexto);
 HOST_API std::string Trim(std::string_view ATexto);
+// Bytes of the code point with which the text begins; 0 where that is not UTF-8.
+HOST_API std::size_t TamanhoDoCaractere(std::string_view AUtf8);
+// As one line that a terminal can be given: every control character as the sign that stands for it, and what is not
+// UTF-8 as the replacement character.
+HOST_API std::string SemControles(std::string_view ATexto);
+// The same of a text of several lines: its carriage returns and line feeds become line feeds.
+HOST_API std::string LinhasSemControles(std::string_view ATexto);
 // A whole number as text; 0 for any other text.
 HOST_API std::int32_t NumeroOuZero(std::string_view ATexto);
 

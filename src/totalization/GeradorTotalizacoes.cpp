@@ -73,8 +73,8 @@ void TGeradorTotalizacoes::ReservarProjecao() {
         "Não foi possível reservar a projeção para gerar as totalizações; nada foi alterado nela.\r\rErros : ";
     try {
         FTransacao = host::ZTConnection().IniciarTransacao();
-    } catch (const host::TFalha& E) {
-        Falhar(LMensagem, E.what());
+    } catch (const host::TFalhaBanco& E) {
+        Falhar(LMensagem, E.what(), E);
     }
     FScript = host::Format(sql::ReservarProjecao, {Projecao()});
     Executar("ReservarProjecao", LMensagem);
@@ -94,7 +94,7 @@ void TGeradorTotalizacoes::ConfirmarProjecao() {
         Falhar(LSemResposta ? "A conexão se perdeu enquanto as totalizações da projeção eram gravadas; não se sabe se "
                               "ficaram gravadas. Gere os totais novamente.\r\rErros : "
                             : "Não foi possível gravar as totalizações da projeção; ela ficou como estava.\r\rErros : ",
-               E.what());
+               E.what(), E);
     }
     FTransacao.reset();
 }
@@ -103,13 +103,14 @@ void TGeradorTotalizacoes::Executar(const char* ANome, const char* AMensagem) {
     const host::TInstrucao LInstrucoes[] = {{ANome, FScript}};
     const auto LResultado = host::ZTConnection().ExecutouSQL(LInstrucoes, false);
     if (!LResultado.Sucesso)
-        Falhar(AMensagem, LResultado.Mensagem);
+        Falhar(AMensagem, LResultado.Mensagem, LResultado.Causa);
 }
 
-void TGeradorTotalizacoes::Falhar(const char* AMensagem, const std::string& AErro) {
+void TGeradorTotalizacoes::Falhar(const char* AMensagem, const std::string& AErro,
+                                  const std::optional<host::TFalhaBanco>& ACausa) {
     FTransacao.reset(); // rolls back before the message: nobody else is to wait while it is read
     FDm.PararSeCancelado(FProgresso);
-    host::GZTUtilsDialogs.Erro(AMensagem + AErro);
+    host::GZTUtilsDialogs.Erro(AMensagem + AErro, ACausa);
     throw host::Abort();
 }
 

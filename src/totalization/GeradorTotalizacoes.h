@@ -41,7 +41,8 @@ class TGeradorTotalizacoes {
 
     // Runs FScript inside the projection's transaction. A failure rolls back, is shown behind AMensagem, and aborts.
     void Executar(const char* ANome, const char* AMensagem);
-    [[noreturn]] void Falhar(const char* AMensagem, const std::string& AErro);
+    [[noreturn]] void Falhar(const char* AMensagem, const std::string& AErro,
+                             const std::optional<host::TFalhaBanco>& ACausa);
     std::int64_t Projecao() const { return FProjecoes->GetInt64FieldValue("IDCTBORCADAINF"); }
     std::int64_t Relatorio() const { return FRelatorios->GetInt64FieldValue("IDDEMAC"); }
     std::string Periodo() const;

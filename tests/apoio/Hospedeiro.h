@@ -6,6 +6,7 @@
 #include "host/Servicos.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,12 +16,14 @@ namespace apoio {
 class Interacao : public host::TInteracao {
   public:
     std::vector<std::string> mensagens;
+    std::optional<host::TFalhaBanco> causa; // of the last message
     std::vector<host::TEventoProgresso> progresso;
     bool cancelado = false;
     std::function<void(host::TFormZTTandorPadraoResult&)> aoMostrar;
 
     int Mensagem(const host::TMensagem& mensagem) override {
         mensagens.push_back(mensagem.Texto);
+        causa = mensagem.Causa;
         return 6;
     }
     void Progresso(const host::TEventoProgresso& evento) override { progresso.push_back(evento); }

@@ -75,6 +75,7 @@ SELECT INF.IDCTBORCADAINF, 1, FIL.IDFILIAL, TOT.IDDEMACTOT, 7, 7, 7
 // How a run ended, and what it has shown.
 struct Rodada {
     Lista mensagens; // without the questions
+    std::optional<host::TFalhaBanco> causa;
     Lista projecoes; // those begun, as level 0 of the progress dialog names them
     bool abortou = false;
     std::string falha; // raised beside the abort
@@ -123,6 +124,7 @@ inline Rodada Gerar(suite::firebird::Connection& conexao, AoProgredir aoProgredi
         rodada.falha = falha.what();
     }
     rodada.mensagens = interacao.mensagens;
+    rodada.causa = interacao.causa;
     for (const auto& evento : interacao.progresso)
         if (evento.Tipo == host::TEventoProgresso::TTipo::Texto && evento.Nivel == 0)
             rodada.projecoes.push_back(evento.Texto);

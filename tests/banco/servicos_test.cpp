@@ -3,14 +3,19 @@
 #include "host/DataSet.h"
 #include "host/Falhas.h"
 #include "suite/firebird/Cursor.h"
+#include "suite/firebird/Error.h"
 #include "suite/firebird/Statement.h"
 
 #include <gtest/gtest.h>
+#include <ibase.h>
 
 #include <chrono>
 #include <cstdlib>
 #include <future>
+#include <netinet/in.h>
+#include <sys/socket.h>
 #include <thread>
+#include <unistd.h>
 
 using apoio::Base;
 using apoio::Copia;
@@ -29,6 +34,63 @@ host::TValor Valor(host::TZTConnection& conexao, const std::string& texto) {
     consulta.Open();
     return consulta.Fields().front().Valor();
 }
+
+constexpr const char* Inalcancavel =
+    "Não foi possível chegar ao servidor do banco de dados. Verifique o endereço, a porta e se o servidor está no ar.";
+
+void marcarSomenteLeitura(const Copia& copia) {
+    const auto quem = apoio::credenciais();
+    Disposable<Firebird::IXpbBuilder> bloco(call("teste", [](auto* estado) {
+        return master()->getUtilInterface()->getXpbBuilder(estado, Firebird::IXpbBuilder::DPB, nullptr, 0);
+    }));
+    call("teste", [&](auto* estado) {
+        bloco->insertString(estado, isc_dpb_user_name, "SYSDBA");
+        if (!quem.password.empty())
+            bloco->insertString(estado, isc_dpb_password, quem.password.c_str());
+        bloco->insertInt(estado, isc_dpb_set_db_readonly, 1);
+    });
+    const Ref<Firebird::IProvider> provedor(master()->getDispatcher());
+    Ref<Firebird::IAttachment> ligacao(call("teste", [&](auto* estado) {
+        return provedor->attachDatabase(estado, copia.alvo().c_str(), bloco->getBufferLength(estado),
+                                        bloco->getBuffer(estado));
+    }));
+    call("teste", [&](auto* estado) { ligacao->detach(estado); });
+    static_cast<void>(ligacao.release());
+}
+
+// Takes connections on loopback, gives each the same answer to whatever it says, and closes it.
+class ServidorEstranho {
+  public:
+    explicit ServidorEstranho(std::string resposta) : socket_(::socket(AF_INET, SOCK_STREAM, 0)) {
+        sockaddr_in endereco{};
+        endereco.sin_family = AF_INET;
+        endereco.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t tamanho = sizeof endereco;
+        auto* const geral = reinterpret_cast<sockaddr*>(&endereco);
+        if (::bind(socket_, geral, tamanho) != 0 || ::listen(socket_, 5) != 0 ||
+            ::getsockname(socket_, geral, &tamanho) != 0)
+            throw std::runtime_error("no socket to listen on");
+        porta_ = ntohs(endereco.sin_port);
+        atendente_ = std::thread([this, resposta = std::move(resposta)] {
+            for (int cliente; (cliente = ::accept(socket_, nullptr, nullptr)) >= 0; ::close(cliente)) {
+                char pedido[1024];
+                if (!resposta.empty() && ::recv(cliente, pedido, sizeof pedido, 0) > 0)
+                    ::send(cliente, resposta.data(), resposta.size(), MSG_NOSIGNAL);
+            }
+        });
+    }
+    ~ServidorEstranho() {
+        ::shutdown(socket_, SHUT_RDWR);
+        atendente_.join();
+        ::close(socket_);
+    }
+    std::string alvo() const { return "127.0.0.1/" + std::to_string(porta_) + ":/x.fdb"; }
+
+  private:
+    int socket_;
+    int porta_ = 0;
+    std::thread atendente_;
+};
 
 template <class Acao>
 TFalhaBanco Falha(Acao&& acao) {
@@ -377,6 +439,50 @@ TEST(Servicos, FalhasComunsDizemOQueFazer) {
     }
     const auto ausente = Falha([] { Attachment{Target("127.0.0.1/1:/nada.fdb"), {}}; });
     EXPECT_NE(std::string::npos, std::string(ausente.what()).find("servidor do banco")) << ausente.what();
+}
+
+TEST(Servicos, BancoSomenteDeLeituraEhDitoETemCausa) {
+    const Copia copia(Base::Vazia);
+    marcarSomenteLeitura(copia);
+    const auto conexao = copia.conectar();
+    const host::TInstrucao gravar[] = {
+        {"Gravar", "UPDATE SC00_EMPRESA SET NOME = 'x'"},
+        {"Inserir", "INSERT INTO US09_USUARIO (IDUSUARIO, CODIGO, NOME) VALUES (1, 1, 'A')"}};
+    const auto resultado = conexao->ExecutouSQL(gravar, true);
+    EXPECT_EQ(
+        "O banco de dados está em modo somente de leitura; nada foi gravado. Peça ao administrador que o ponha em "
+        "modo de leitura e gravação, ou use os totais como estão.",
+        resultado.Mensagem);
+    ASSERT_TRUE(resultado.Causa);
+    EXPECT_EQ("42000", resultado.Causa->Estado());
+    EXPECT_FALSE(conexao->ExecutouSQL(gravar, false).Causa) << "no transaction is no failure of the database";
+}
+
+TEST(Servicos, ArquivoProtegidoEConexaoCortadaNaAberturaDizemOQueFazer) {
+    const auto falha = [](std::initializer_list<std::intptr_t> estado, std::string_view instrucao) {
+        return std::string(toFailure(std::data(estado), std::string(instrucao)).what());
+    };
+    const auto texto = [](const char* t) { return reinterpret_cast<std::intptr_t>(t); };
+    EXPECT_EQ("O arquivo /x.fdb não está liberado para gravação, de que o Firebird precisa também para consultar. Peça "
+              "permissão de gravação nele.",
+              falha({isc_arg_gds, isc_no_priv, isc_arg_string, texto("read-write"), isc_arg_string, texto("database"),
+                     isc_arg_string, texto("/x.fdb"), isc_arg_end},
+                    OpeningName));
+    EXPECT_NE(std::string::npos, falha({isc_arg_gds, isc_no_priv, isc_arg_string, texto("SELECT"), isc_arg_string,
+                                        texto("TABLE"), isc_arg_string, texto("X"), isc_arg_end},
+                                       "x")
+                                     .find("administrador do banco"));
+    for (const auto codigo : {isc_net_read_err, isc_net_write_err}) {
+        EXPECT_EQ(Inalcancavel, falha({isc_arg_gds, codigo, isc_arg_end}, OpeningName));
+        EXPECT_EQ(0U,
+                  falha({isc_arg_gds, codigo, isc_arg_end}, "x").find("A conexão com o banco de dados foi perdida."));
+    }
+    for (const char* resposta : {"", "HTTP/1.1 400 Bad Request\r\n\r\n"}) {
+        const ServidorEstranho servidor(resposta);
+        const auto cortada = Falha([&] { Attachment{Target(servidor.alvo()), {"SYSDBA", "x"}}; });
+        EXPECT_STREQ(Inalcancavel, cortada.what()) << cortada.Diagnostico();
+        EXPECT_EQ(TTipoFalhaBanco::Conexao, cortada.Tipo());
+    }
 }
 
 TEST(Servicos, ConexaoPerdidaEhContadaComoTal) {

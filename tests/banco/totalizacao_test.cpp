@@ -326,6 +326,8 @@ TEST_F(Totalizacao, QuemEncontraAProjecaoReservadaEsperaESabePorQuem) {
         EXPECT_EQ(Lista{MensagemDaReserva + std::string("Outro usuário (") + quem +
                         ") está gravando os mesmos dados. Aguarde um instante e tente novamente."},
                   rodada.mensagens);
+        ASSERT_TRUE(rodada.causa) << "a lock is a failure of the database as well";
+        EXPECT_EQ(host::TTipoFalhaBanco::Bloqueio, rodada.causa->Tipo());
         EXPECT_EQ(Prontas(1), Todas(*conexao));
     }
     Restaurar(*conexao);
@@ -370,6 +372,8 @@ TEST_F(Totalizacao, RegraDoBancoRecusaAEtapaEAProjecaoFicaComoEstava) {
     EXPECT_EQ(Lista{std::string(MensagemDaEtapa5) + "Os valores não atendem a uma regra deste banco de dados "
                                                     "(SEM_SINTETICO); nada foi gravado."},
               rodada.mensagens);
+    ASSERT_TRUE(rodada.causa);
+    EXPECT_EQ("GerarTotaisSinteticos", rodada.causa->Instrucao());
     EXPECT_EQ(Prontas(1), Todas(*conexao));
 }
 

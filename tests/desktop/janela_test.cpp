@@ -193,6 +193,23 @@ TEST_F(Casca, EsperaLongaSemProgressoGanhaUmaJanelaComCancelar) {
     EXPECT_EQ(nullptr, QGuiApplication::overrideCursor());
 }
 
+TEST_F(Casca, ErroComCausaNoBancoTemOsDetalhesDela) {
+    host::TServicos servicos;
+    servicos.Interacao = &interacao;
+    const host::TInstalacaoServicos instalados(servicos);
+    comModais({[](QDialog& d) {
+                   EXPECT_EQ("Erros : O banco falhou.", parte<QLabel>(d, "texto").text().toStdString());
+                   EXPECT_TRUE(parte<QPlainTextEdit>(d, "detalhes").toPlainText().contains(QStringLiteral("GerarX")));
+               },
+               [](QDialog& d) { EXPECT_EQ(nullptr, d.findChild<QPlainTextEdit*>(QStringLiteral("detalhes"))); }},
+              [] {
+                  host::GZTUtilsDialogs.Erro(
+                      "Erros : O banco falhou.",
+                      TFalhaBanco(TTipoFalhaBanco::Comando, "O banco falhou.", "42000", {1}, "GerarX", "detalhe"));
+                  host::GZTUtilsDialogs.Erro("Há um ciclo.");
+              });
+}
+
 TEST_F(Casca, FalhaGuardaOsDetalhesDobrados) {
     const TFalhaBanco comando(TTipoFalhaBanco::Comando, "Não foi possível.", "42000", {1}, "CdsX", "near line 3");
     comModais({[](QDialog& d) {

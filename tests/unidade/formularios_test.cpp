@@ -3,6 +3,7 @@
 #include "host/Falhas.h"
 #include "host/Registro.h"
 #include "suite/program/Module.h"
+#include "suite/program/UserFolder.h"
 #include "suite/script/FormDriver.h"
 #include "suite/script/Headless.h"
 
@@ -102,11 +103,18 @@ TEST(BarraProgresso, ContaTudoAoHospedeiroEFechaNaFalha) {
     EXPECT_EQ(host::TEventoProgresso::TTipo::Fechar, interacao.progresso.back().Tipo);
 }
 
-TEST(Headless, PerguntaSemRespostaEhFalha) {
+TEST(Headless, PerguntaSemRespostaEhFalhaEAFalhaDoBancoMostraSuaCausa) {
     std::ostringstream erro;
     suite::script::Headless interacao(erro, false);
     EXPECT_EQ(6, interacao.Mensagem({host::TNivelMensagem::Informacao, "", "linha\rseguinte", {"OK"}, 6}));
     EXPECT_EQ("linha\nseguinte\n", erro.str());
+    EXPECT_FALSE(interacao.failure());
+    const host::TFalhaBanco causa(host::TTipoFalhaBanco::Bloqueio, "Ocupado.", "40001", {7}, "Reservar", "a\nb\x1B");
+    interacao.Mensagem({host::TNivelMensagem::Erro, "", "Erros : Ocupado.", {"OK"}, 6, causa});
+    EXPECT_NE(std::string::npos,
+              erro.str().find("Erros : Ocupado.\n(SQLSTATE 40001, instrução Reservar, códigos 7: a\nb␛)\n"))
+        << erro.str();
+    EXPECT_EQ(host::TTipoFalhaBanco::Bloqueio, interacao.failure()->Tipo());
     EXPECT_THROW(interacao.Mensagem({host::TNivelMensagem::Confirmacao, "", "Sim?", {"Sim", "Não"}, 6}), host::TFalha);
     interacao.Progresso({host::TEventoProgresso::TTipo::Texto, 0, "texto", 0});
     EXPECT_EQ(std::string::npos, erro.str().find("texto")) << "no progress outside a terminal";
@@ -123,4 +131,26 @@ TEST(Modulo, RegistraSuaClasseEnquantoCarregado) {
     }
     EXPECT_FALSE(host::FindClass("TForm04618")) << "unloading unregisters";
     EXPECT_THROW(suite::program::Module("/nada/Pct04618.so"), host::TFalha);
+}
+
+TEST(Modulo, ArquivoQueNaoEhModuloEhRecusadoEUmSemTextosSuportado) {
+    const std::string pasta = ORCREAL_MODULOS "/";
+    for (const char* nome : {"modulo_nulo.so", "modulo_dado.so"})
+        try {
+            const suite::program::Module modulo(pasta + nome);
+            FAIL() << nome;
+        } catch (const host::TFalha& falha) {
+            EXPECT_EQ("O arquivo " + pasta + nome + " não é um módulo deste programa.", falha.what());
+        }
+    EXPECT_EQ(":  (banco de dados a partir da versão )",
+              suite::program::Module(pasta + "modulo_calado.so").description());
+}
+
+TEST(PastaDoUsuario, HomeIncompletaNaoContaESemNenhumaHaUmaFrase) {
+    using suite::program::chooseHome;
+    EXPECT_EQ("/casa", chooseHome("/casa", "/conta"));
+    for (const char* home : {static_cast<const char*>(nullptr), "", "casa", "./casa"})
+        EXPECT_EQ("/conta", chooseHome(home, "/conta"));
+    for (const char* conta : {static_cast<const char*>(nullptr), "", "conta"})
+        EXPECT_THROW(chooseHome("casa", conta), host::TFalha);
 }

@@ -356,6 +356,9 @@ TEST_F(Leiautes, PastaQueNaoServeNaoImpedeAJanela) {
     EXPECT_EQ(1U, interacao.mensagens.size());
     EXPECT_THROW(leiaute.Salvar("meu"), host::TFalha);
     EXPECT_EQ("", leiaute.Escolhido());
+    suite::program::LayoutStore semPasta([]() -> std::filesystem::path { throw host::TFalha("sem pasta"); });
+    EXPECT_EQ(Lista{}, semPasta.Listar({"{K}", 5})) << "a user without a home has kept nothing";
+    EXPECT_THROW(semPasta.Gravar({"{K}", 5}, "meu", {}), host::TFalha);
     servicos.Leiautes = nullptr;
     const host::TInstalacaoServicos semArmazem(servicos);
     leiaute.CarregarListaDeLeiautes();

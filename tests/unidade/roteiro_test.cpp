@@ -285,3 +285,8 @@ TEST(Roteiro, MostraGradeEModuloDeDados) {
     recusa("selecionar\nclicar actSair\nmostrar celulas 3\n", 2, "Linha 3: A grade tem 2 linhas");
     recusa("selecionar\nclicar actSair\nmostrar celulas 1 agora\n", 2, "Linha 3: O passo se escreve");
 }
+
+TEST(Json, EscapaOQueUmTerminalObedece) {
+    EXPECT_EQ(R"("\"\\\r\n\u001b\u007f\u0080\u009f")", suite::script::quoteJson("\"\\\r\n\x1B\x7F\u0080\u009F"));
+    EXPECT_EQ("\"\u00A0ção \u2421\uFFFD\"", suite::script::quoteJson("\u00A0ção \u2421\x9B"));
+}

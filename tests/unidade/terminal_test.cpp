@@ -45,4 +45,15 @@ TEST(TerminalProgress, NivelDeForaFicaEODeDentroSeRefaz) {
     EXPECT_EQ(mostrar(false), "");
 }
 
+TEST(TerminalProgress, NomesNaoMandamNoTerminal) {
+    std::ostringstream saida;
+    TerminalProgress progresso(saida, true);
+    progresso.show(Evento{Evento::TTipo::Texto, 0, "Um\x1B]0;x\a", 0});
+    progresso.show("Dois\u009B2J\n", 1, 1);
+    progresso.show(Evento{Evento::TTipo::Passo, 1, "", 1});
+    progresso.show(Evento{Evento::TTipo::Texto, 0, "Três\r", 0});
+    for (const char* mostrado : {"Um␛]0;x␇...", "Dois\uFFFD2J␊", "Três␍\n"})
+        EXPECT_NE(saida.str().find(mostrado), std::string::npos) << mostrado;
+}
+
 } // namespace

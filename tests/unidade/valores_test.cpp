@@ -117,3 +117,15 @@ TEST(Format, ExigeQueMarcasEArgumentosSeCorrespondam) {
     EXPECT_EQ("'d''água'", host::QuotedStr("d'água"));
     EXPECT_EQ("1, 2", host::Trim(" 1, 2 \r\n"));
 }
+
+TEST(SemControles, TerminalNaoObedeceANomes) {
+    using host::LinhasSemControles;
+    using host::SemControles;
+    EXPECT_EQ("Pão – 100 €", SemControles("Pão – 100 €"));
+    EXPECT_EQ("␀␛[31m␇␉␊␍␟", SemControles(std::string_view("\0\x1B[31m\a\t\n\r\x1F", 11)));
+    EXPECT_EQ("a␡\uFFFD\uFFFD\u00A0b", SemControles("a\x7F\u0080\u009F\u00A0b"));
+    EXPECT_EQ("\uFFFDx\uFFFD\uFFFDy\uFFFD", SemControles("\x9Bx\xC0\x80y\xC3")) << "bytes that are no UTF-8";
+    EXPECT_EQ("\U0001F600\uFFFD\uFFFD\uFFFD", SemControles("\U0001F600\xED\xA0\x80")) << "a surrogate is none";
+    EXPECT_EQ("a\nb\nc\n\nd␛\n", LinhasSemControles("a\rb\r\nc\n\rd\x1B\n"));
+    EXPECT_EQ("", LinhasSemControles(""));
+}

@@ -33,12 +33,17 @@ bool set(const char* variable) {
     return value && *value != '\0';
 }
 
+bool isThere(const std::filesystem::path& file) {
+    std::error_code hidden; // what cannot be looked at is made, or told, when it is chosen
+    return std::filesystem::exists(file, hidden);
+}
+
 // Asks which database, or takes the choice that the user wants without being asked. None: the user leaves.
 std::optional<DatabaseChoice> choose(const DesktopProgram& program, bool ask) {
     auto choice = settings::database();
     if (!ask && settings::hasDatabase() && settings::value(DirectSetting) == QStringLiteral("sim"))
         return choice;
-    StartDialog dialog(choice, std::filesystem::exists(program.demoFile));
+    StartDialog dialog(choice, isThere(program.demoFile));
     if (dialog.exec() != QDialog::Accepted)
         return {};
     choice = dialog.choice();
@@ -85,10 +90,7 @@ bool makeDemo(const DesktopProgram& program, Aside& aside) {
             Qt::QueuedConnection);
     };
     try {
-        aside.run([&] {
-            std::filesystem::create_directories(program.demoFile.parent_path());
-            program.makeDemo(show);
-        });
+        aside.run([&] { program.makeDemo(show); });
     } catch (const DemoStopped&) {
         return false;
     }
@@ -161,7 +163,7 @@ void runDesktop(const DesktopProgram& program) {
                 if (!choice)
                     return;
                 ask = true;
-                if (choice->kind == DatabaseChoice::Kind::Demo && !std::filesystem::exists(program.demoFile) &&
+                if (choice->kind == DatabaseChoice::Kind::Demo && !isThere(program.demoFile) &&
                     !makeDemo(program, aside))
                     continue;
                 request = requestOf(*choice, program);

@@ -35,8 +35,9 @@ class DesktopSession {
 struct DesktopProgram {
     std::string version;
     std::optional<DatabaseRequest> asked; // by the command line; the user is then not asked
-    std::filesystem::path demoFile;
-    // Makes the demo database in its file. Called in another thread; an exception of progress stops it.
+    std::filesystem::path demoFile;       // empty for a user without a home
+    // Makes the demo database in its file, and the folder for it. Called in another thread; an exception of progress
+    // stops it.
     std::function<void(const std::function<void(const std::string& text, std::size_t done, std::size_t total)>&)>
         makeDemo;
     std::function<AsideConnection::Inner(const DatabaseRequest&)> connect; // in another thread

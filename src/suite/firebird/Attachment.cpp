@@ -2,6 +2,7 @@
 
 #include "host/Falhas.h"
 #include "suite/firebird/Charset.h"
+#include "suite/firebird/Error.h"
 #include "suite/firebird/LockFolder.h"
 #include "suite/firebird/Statement.h"
 #include "suite/firebird/Transaction.h"
@@ -16,30 +17,29 @@ namespace suite::firebird {
 
 namespace {
 
-constexpr const char* AttachName = "abertura do banco de dados";
 constexpr int ConnectTimeoutSeconds = 10;
 constexpr int PageSize = 16384;
 
 class ParameterBlock {
   public:
     ParameterBlock()
-        : builder_(call(AttachName, [](auto* status) {
+        : builder_(call(OpeningName, [](auto* status) {
               return master()->getUtilInterface()->getXpbBuilder(status, Firebird::IXpbBuilder::DPB, nullptr, 0);
           })) {
         text(isc_dpb_lc_ctype, "ISO8859_1");
         number(isc_dpb_sql_dialect, 3);
     }
     void text(unsigned char tag, const std::string& value) {
-        call(AttachName, [&](auto* status) { builder_->insertString(status, tag, value.c_str()); });
+        call(OpeningName, [&](auto* status) { builder_->insertString(status, tag, value.c_str()); });
     }
     void number(unsigned char tag, int value) {
-        call(AttachName, [&](auto* status) { builder_->insertInt(status, tag, value); });
+        call(OpeningName, [&](auto* status) { builder_->insertInt(status, tag, value); });
     }
     unsigned length() {
-        return call(AttachName, [&](auto* status) { return builder_->getBufferLength(status); });
+        return call(OpeningName, [&](auto* status) { return builder_->getBufferLength(status); });
     }
     const unsigned char* buffer() {
-        return call(AttachName, [&](auto* status) { return builder_->getBuffer(status); });
+        return call(OpeningName, [&](auto* status) { return builder_->getBuffer(status); });
     }
 
   private:
@@ -47,7 +47,8 @@ class ParameterBlock {
 };
 
 [[noreturn]] void refuse(const std::filesystem::path& file, const std::string& why, long code) {
-    throw host::TFalhaBanco(host::TTipoFalhaBanco::Conexao, why, "08001", {code}, AttachName, file.string());
+    throw host::TFalhaBanco(host::TTipoFalhaBanco::Conexao, why, "08001", {code}, std::string(OpeningName),
+                            file.string());
 }
 
 // The engine takes what stands before a colon for a server, wherever in a path it is, and converts names to UTF-8.
@@ -96,7 +97,7 @@ void requireDatabaseFile(const std::filesystem::path& file) {
 
 Ref<Firebird::IAttachment> attach(const Target& target, ParameterBlock& block) {
     Ref<Firebird::IProvider> provider(master()->getDispatcher());
-    Ref<Firebird::IAttachment> handle(call(AttachName, [&](auto* status) {
+    Ref<Firebird::IAttachment> handle(call(OpeningName, [&](auto* status) {
         return provider->attachDatabase(status, target.text().c_str(), block.length(), block.buffer());
     }));
     if (target.embedded())
@@ -128,7 +129,7 @@ Attachment Attachment::create(const Target& target) {
     block.number(isc_dpb_page_size, PageSize);
     block.number(isc_dpb_force_write, 0);
     Ref<Firebird::IProvider> provider(master()->getDispatcher());
-    Attachment created(Ref<Firebird::IAttachment>(call(AttachName, [&](auto* status) {
+    Attachment created(Ref<Firebird::IAttachment>(call(OpeningName, [&](auto* status) {
         return provider->createDatabase(status, target.text().c_str(), block.length(), block.buffer());
     })));
     settleLockFiles();

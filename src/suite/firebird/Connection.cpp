@@ -127,6 +127,8 @@ host::TResultStatus Connection::ExecutouSQL(std::span<const host::TInstrucao> st
         if (own)
             own->commit();
         return {};
+    } catch (const host::TFalhaBanco& failure) {
+        return {false, failure.what(), failure};
     } catch (const host::TFalha& failure) {
         return {false, failure.what()};
     }

@@ -56,8 +56,13 @@ struct Sentence {
 
 constexpr const char* LostSentence =
     "A conexão com o banco de dados foi perdida. Conecte-se novamente; o que já estava confirmado permanece gravado.";
+constexpr const char* UnreachableSentence =
+    "Não foi possível chegar ao servidor do banco de dados. Verifique o endereço, a porta e se o servidor está no ar.";
 constexpr const char* LockedSentence =
     "Outro usuário está gravando os mesmos dados. Aguarde um instante e tente novamente.";
+constexpr const char* ProtectedFileSentence =
+    "O arquivo %s não está liberado para gravação, de que o Firebird precisa também para consultar. Peça permissão de "
+    "gravação nele.";
 constexpr const char* LockDirectorySentence =
     "Não há permissão para usar a pasta de travas \".orcreal-lock\" ao lado do banco de dados. Peça a quem a criou que "
     "libere o acesso.";
@@ -89,9 +94,11 @@ constexpr Sentence Sentences[] = {
      "A conexão com o banco de dados foi encerrada pelo servidor. Conecte-se novamente."},
     {isc_shutdown, TTipoFalhaBanco::Conexao,
      "O banco de dados está fechado para manutenção. Tente novamente mais tarde."},
-    {isc_network_error, TTipoFalhaBanco::Conexao,
-     "Não foi possível chegar ao servidor do banco de dados. Verifique o endereço, a porta e se o servidor está no "
-     "ar."},
+    {isc_network_error, TTipoFalhaBanco::Conexao, UnreachableSentence},
+    {isc_connect_reject, TTipoFalhaBanco::Conexao, UnreachableSentence}, // no Firebird, or cut in the handshake
+    {isc_read_only_database, TTipoFalhaBanco::Comando,
+     "O banco de dados está em modo somente de leitura; nada foi gravado. Peça ao administrador que o ponha em modo de "
+     "leitura e gravação, ou use os totais como estão."},
     {isc_dsql_relation_err, TTipoFalhaBanco::Comando,
      "A tabela %s não existe neste banco de dados. Verifique se o banco é o da suíte e se está atualizado."},
     {isc_dsql_field_err, TTipoFalhaBanco::Comando,
@@ -116,6 +123,11 @@ constexpr Sentence Sentences[] = {
 const Entry* find(const std::vector<Entry>& entries, long code) {
     const auto found = std::find_if(entries.begin(), entries.end(), [&](const Entry& e) { return e.code == code; });
     return found == entries.end() ? nullptr : &*found;
+}
+
+// "no permission for read-write access to database FILE", of the machine's rights and not of the database's.
+bool ofFile(const Entry& entry) {
+    return entry.texts.size() == 3 && entry.texts[0] == "read-write" && entry.texts[1] == "database";
 }
 
 // The engine names an absent table or column in the text that goes with the next code.
@@ -144,6 +156,15 @@ host::TFalhaBanco toFailure(const std::intptr_t* status, const std::string& stat
     const std::string detail = engineText(status);
     if (detail.find(".orcreal-lock/") != std::string::npos)
         return {TTipoFalhaBanco::Conexao, LockDirectorySentence, state, codes, statement, detail};
+    if (const Entry* entry = find(entries, isc_no_priv); entry && ofFile(*entry))
+        return {TTipoFalhaBanco::Conexao,
+                fill(ProtectedFileSentence, entry->texts.back()),
+                state,
+                codes,
+                statement,
+                detail};
+    if (statement == OpeningName && (find(entries, isc_net_read_err) || find(entries, isc_net_write_err)))
+        return {TTipoFalhaBanco::Conexao, UnreachableSentence, state, codes, statement, detail};
     for (const auto& sentence : Sentences)
         if (const Entry* entry = find(entries, sentence.code))
             return {sentence.kind, fill(sentence.text, subject(entries, *entry)), state, codes, statement, detail};

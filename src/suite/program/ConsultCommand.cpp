@@ -49,7 +49,7 @@ std::vector<std::string> heading(const host::TForm& dialog, const ConsultOptions
 
 void writeTable(std::ostream& out, const host::TGrade& grid, const std::vector<std::string>& title, bool terminal) {
     for (const auto& line : title)
-        out << line << '\n';
+        out << host::SemControles(line) << '\n';
     out << '\n';
     script::writeTable(out, *grid.DataSet(), tableColumns(grid), tableWidth(terminal), terminal);
 }
@@ -128,7 +128,7 @@ ExitCode runConsult(const ConsultOptions& options, const Login& login, script::H
     window->Executar(window->Acao("ActSelecionar"));
     const auto* grid = resultGrid(*window);
     if (!grid)
-        return ExitCode::Refused; // the rules have said why
+        return interaction.failure() ? exitCodeOf(*interaction.failure()) : ExitCode::Refused; // it has been said why
     if (options.output.empty())
         writeOutput(*grid, options, title);
     else

@@ -35,7 +35,7 @@ std::string codeAndName(const char* table, const char* key, const char* code, st
 class Session final : public desktop::DesktopSession {
   public:
     Session(const LoginRequest& request, host::TZTConnection& connection, host::TInteracao& interaction)
-        : layouts_(userFolder("XDG_DATA_HOME", ".local/share") / "leiautes") {
+        : layouts_(layoutFolder) {
         host::TServicos services;
         services.Conexao = &connection;
         services.Interacao = &interaction;
@@ -67,6 +67,17 @@ class Session final : public desktop::DesktopSession {
     std::optional<host::TInstalacaoServicos> loggedIn_;
     std::unique_ptr<host::TFormZTTandorPadraoSelecao> window_;
 };
+
+// Whoever names a database needs no home, until he asks for the demo.
+std::filesystem::path demoFileIfAny(const Options& options) {
+    try {
+        return defaultDemoFile();
+    } catch (const host::TFalha&) {
+        if (options.database.empty())
+            throw;
+        return {};
+    }
+}
 
 desktop::AsideConnection::Inner connect(const DatabaseRequest& request) {
     const auto connection = std::make_shared<firebird::Connection>(
@@ -101,8 +112,12 @@ desktop::DesktopProgram desktopProgram(const Options& options, const std::string
     program.version = version;
     if (!options.database.empty())
         program.asked = DatabaseRequest{options.database, options.credentials.user, options.credentials.password};
-    program.demoFile = defaultDemoFile();
-    program.makeDemo = [file = program.demoFile](const auto& progress) { demo::Criar({file, 1, progress}); };
+    program.demoFile = demoFileIfAny(options);
+    program.makeDemo = [](const auto& progress) {
+        const auto file = defaultDemoFile();
+        makeFolder(file.parent_path());
+        demo::Criar({file, 1, progress});
+    };
     program.connect = connect;
     program.login = [request = options.login](host::TZTConnection& connection, host::TInteracao& interaction) {
         return std::make_unique<Session>(request, connection, interaction);
@@ -113,7 +128,7 @@ desktop::DesktopProgram desktopProgram(const Options& options, const std::string
     return program;
 }
 
-ExitCode runDesktopCommand(const Options& options, const std::string& version, Interrupt& interrupt) {
+ExitCode runDesktopCommand(const Options& options, Interrupt& interrupt) {
     if (!desktop::hasDisplay())
         throw host::TFalha(NoDisplay);
     const Module module(moduleFile());
@@ -122,7 +137,7 @@ ExitCode runDesktopCommand(const Options& options, const std::string& version, I
         Interrupt& interrupt;
         ~Detach() { interrupt.onRequest({}); }
     } const detach{interrupt};
-    desktop::runDesktop(desktopProgram(options, version));
+    desktop::runDesktop(desktopProgram(options, versionText(&module)));
     return interrupt.requested() ? ExitCode::Cancelled : ExitCode::Done;
 }
 

@@ -109,7 +109,7 @@ void moveAside(const path& file) {
 } // namespace
 
 path LayoutStore::folderOf(const host::TDonoLeiautes& owner) const {
-    return folder_ / std::to_string(owner.IDUsuario) / encoded(owner.ChaveLeiaute);
+    return folder_() / std::to_string(owner.IDUsuario) / encoded(owner.ChaveLeiaute);
 }
 
 path LayoutStore::fileOf(const host::TDonoLeiautes& owner, const std::string& name) const {
@@ -120,7 +120,12 @@ path LayoutStore::fileOf(const host::TDonoLeiautes& owner, const std::string& na
 }
 
 std::vector<std::string> LayoutStore::Listar(const host::TDonoLeiautes& owner) const {
-    const auto folder = folderOf(owner);
+    path folder;
+    try {
+        folder = folderOf(owner);
+    } catch (const host::TFalha&) { // a user without a home has kept nothing
+        return {};
+    }
     std::vector<std::string> names;
     try {
         for (const auto& entry : std::filesystem::directory_iterator(folder))

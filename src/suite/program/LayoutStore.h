@@ -3,6 +3,7 @@
 #include "host/Leiaute.h"
 
 #include <filesystem>
+#include <functional>
 
 namespace suite::program {
 
@@ -10,8 +11,9 @@ namespace suite::program {
 // overwritten: whoever stores another under its name finds it moved aside, with ".danificado" behind its name.
 class LayoutStore final : public host::TArmazemLeiautes {
   public:
-    // The folder need not exist yet.
-    explicit LayoutStore(std::filesystem::path folder) : folder_(std::move(folder)) {}
+    // The folder need not exist yet. It is looked for when first asked for a layout; without one none are listed.
+    explicit LayoutStore(std::function<std::filesystem::path()> folder) : folder_(std::move(folder)) {}
+    explicit LayoutStore(std::filesystem::path folder) : LayoutStore([folder = std::move(folder)] { return folder; }) {}
 
     std::vector<std::string> Listar(const host::TDonoLeiautes& owner) const override;
     host::TLeiaute Ler(const host::TDonoLeiautes& owner, const std::string& name) const override;
@@ -22,7 +24,7 @@ class LayoutStore final : public host::TArmazemLeiautes {
     std::filesystem::path folderOf(const host::TDonoLeiautes& owner) const;
     std::filesystem::path fileOf(const host::TDonoLeiautes& owner, const std::string& name) const;
 
-    std::filesystem::path folder_;
+    std::function<std::filesystem::path()> folder_;
 };
 
 } // namespace suite::program

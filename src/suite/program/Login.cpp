@@ -38,14 +38,21 @@ std::int64_t find(const std::string& table, const std::string& key, const std::s
     return 0;
 }
 
+void requireLogFolder(const std::filesystem::path& folder) {
+    std::error_code failure;
+    const auto status = std::filesystem::status(folder, failure);
+    if (folder.empty() || std::filesystem::is_directory(status))
+        return;
+    if (status.type() == std::filesystem::file_type::not_found)
+        throw host::TFalha("A pasta de log \"" + folder.string() + "\" não existe. Crie-a ou indique outra.");
+    throw host::TFalha("A pasta de log \"" + folder.string() + "\" não pode ser usada: " +
+                       (failure ? "verifique as permissões" : "é um arquivo") + ". Indique outra.");
+}
+
 } // namespace
 
 Login::Login(const LoginRequest& request) : logFolder_(request.logFolder) {
-    if (logFolder_.empty())
-        logFolder_ = userFolder("XDG_STATE_HOME", ".local/state").string();
-    else if (!std::filesystem::is_directory(logFolder_))
-        throw host::TFalha("A pasta de log \"" + logFolder_ + "\" não existe. Crie-a ou indique outra.");
-    logFolder_ = (std::filesystem::path(logFolder_) / "").string();
+    requireLogFolder(logFolder_);
     const auto company = find("SC00_EMPRESA", "IDEMPRESA", "EMPRESA", "", request.company, "empresa");
     if (company == 0)
         throw host::TFalha("O banco de dados não tem nenhuma empresa cadastrada.");
@@ -53,6 +60,12 @@ Login::Login(const LoginRequest& request) : logFolder_(request.logFolder) {
     establishment_ = find("SC00_FILIAL", "IDFILIAL", "FILIAL", Format(" WHERE SC00_FILIAL.IDEMPRESA = %d", {company}),
                           request.establishment, "estabelecimento");
     user_ = find("US09_USUARIO", "IDUSUARIO", "CODIGO", "", request.user, "usuário");
+}
+
+// Most runs write no log: only a call needs a home.
+std::string Login::BuscarPastaPadraoLogSistema() const {
+    const auto folder = logFolder_.empty() ? userFolder("XDG_STATE_HOME", ".local/state") : logFolder_;
+    return (folder / "").string();
 }
 
 std::int64_t Login::BuscarIDHolding(std::int64_t company) const {

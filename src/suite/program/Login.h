@@ -3,6 +3,7 @@
 #include "host/Empresa.h"
 
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -31,7 +32,7 @@ class Login final : public host::TZTEmpresaLogada, public host::TUtilContabil, p
     bool BuscarEmpresaUtilizaCtbPorCentroCusto(std::int64_t company) const override;
     std::int64_t GetIDFilialLogada() const override { return establishment_; }
     std::int64_t GetIDUsuarioLogado() const override { return user_; }
-    std::string BuscarPastaPadraoLogSistema() const override { return logFolder_; }
+    std::string BuscarPastaPadraoLogSistema() const override;
 
     const host::TDadosEmpresa& company() const { return company_; }
 
@@ -41,7 +42,7 @@ class Login final : public host::TZTEmpresaLogada, public host::TUtilContabil, p
     host::TDadosEmpresa company_;
     std::int64_t establishment_ = 0;
     std::int64_t user_ = 0;
-    std::string logFolder_;
+    std::filesystem::path logFolder_; // empty: the user's, looked for when it is asked for
 };
 
 } // namespace suite::program

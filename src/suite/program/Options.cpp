@@ -1,9 +1,8 @@
 #include "suite/program/Options.h"
 
 #include "host/Falhas.h"
+#include "suite/program/OptionChecks.h"
 #include "suite/program/UserFolder.h"
-
-#include <CLI/CLI.hpp>
 
 #include <cstdlib>
 #include <fstream>
@@ -35,41 +34,6 @@ std::string behind(const std::string& text, const std::string& mark) {
     return position == std::string::npos ? text : text.substr(position + mark.size());
 }
 
-CLI::Validator oneOf(std::vector<std::string> values) {
-    std::string list;
-    for (const auto& value : values)
-        list += (list.empty() ? "" : ", ") + value;
-    return {[values, list](std::string& given) {
-                return std::find(values.begin(), values.end(), given) != values.end()
-                           ? std::string()
-                           : "\"" + given + "\" não é um de " + list;
-            },
-            ""};
-}
-
-CLI::Validator number(std::int64_t least, std::int64_t most) {
-    return {[least, most](std::string& given) {
-                std::int64_t value = 0;
-                const bool read = CLI::detail::lexical_cast(given, value);
-                return read && value >= least && value <= most
-                           ? std::string()
-                           : "\"" + given + "\" não é um número de " + std::to_string(least) + " a " +
-                                 std::to_string(most);
-            },
-            ""};
-}
-
-// Of a file to read; "-" is standard input.
-CLI::Validator readable() {
-    return {[](std::string& given) {
-                const bool read = given == "-" || (!std::filesystem::is_directory(given) && std::ifstream(given));
-                return read ? std::string() : "o arquivo \"" + given + "\" não pôde ser lido";
-            },
-            ""};
-}
-
-constexpr std::int64_t LargestCode = 999'999'999'999;
-
 // The library's complaints are English; ours say what to do.
 ParsedLine wrongUse(const std::string& what) { return {{}, what + ". Veja \"orcreal --ajuda\".\n", true}; }
 
@@ -90,6 +54,9 @@ void addConsultOptions(CLI::App& command, ConsultOptions& options) {
     const auto add = [&](const char* name, std::string& value, const char* text, const char* type) {
         return command.add_option(name, value, text)->type_name(type);
     };
+    const auto flag = [&](const char* name, bool& value, const char* text) {
+        command.add_flag(name, value, text)->multi_option_policy(CLI::MultiOptionPolicy::Throw);
+    };
     add("--visualizar", options.view, "balanco: plano de contas (padrão); demonstracao: demonstração configurável", "V")
         ->check(oneOf({"balanco", "demonstracao"}));
     add("--modo", options.mode, "1 agrupando períodos, 2 período exato, 3 períodos em colunas", "M")
@@ -98,19 +65,24 @@ void addConsultOptions(CLI::App& command, ConsultOptions& options) {
     add("--ate", options.to, "data final, o último dia de um mês", "dd/mm/aaaa");
     add("--cenario", options.scenario, "0 normal (padrão), 1 otimista, 2 pessimista", "N")
         ->check(oneOf({"0", "1", "2"}));
-    add("--relatorio", options.statement, "demonstração configurável, pelo código", "CODIGO");
-    add("--totalizadores", options.totalizers, "totalizadores da demonstração, pelos códigos", "C,C");
-    add("--estabelecimentos", options.establishments, "estabelecimentos, pelos números", "N,N");
-    command.add_flag("--agrupar", options.groupEstablishments, "soma os estabelecimentos numa linha");
-    add("--centros", options.centres, "centros de custo, pelos códigos", "C,C");
-    add("--contas", options.accounts, "contas, pelos códigos; uma só traz as contas abaixo dela", "C,C");
-    add("--empresas", options.companies, "consolida a holding: empresa/estabelecimento", "N/F,N/F");
-    add("--detalhar", options.details, "abre os totalizadores: contas", "D,D");
-    add("--linhas", options.lines, "linhas do modo 3: B base, O orçado, R realizado (padrão: todas)", "B,O,R");
+    add("--relatorio", options.statement, "demonstração configurável, pelo código", "CODIGO")
+        ->transform(number(0, LargestCode));
+    add("--totalizadores", options.totalizers, "totalizadores da demonstração, pelos códigos", "C,C")
+        ->transform(list(code));
+    add("--estabelecimentos", options.establishments, "estabelecimentos, pelos números", "N,N")->transform(list(code));
+    flag("--agrupar", options.groupEstablishments, "soma os estabelecimentos numa linha");
+    add("--centros", options.centres, "centros de custo, pelos códigos", "C,C")->transform(list(code));
+    add("--contas", options.accounts, "contas, pelos códigos; uma só traz as contas abaixo dela", "C,C")
+        ->transform(list(code));
+    add("--empresas", options.companies, "consolida a holding: empresa/estabelecimento", "N/F,N/F")
+        ->transform(list(companyAndEstablishment));
+    add("--detalhar", options.details, "abre os totalizadores: contas", "D,D")->transform(list());
+    add("--linhas", options.lines, "linhas do modo 3: B base, O orçado, R realizado (padrão: todas)", "B,O,R")
+        ->transform(list());
     add("--percentual", options.percentage, "orcado, base ou vertical", "P")
         ->check(oneOf({"orcado", "base", "vertical"}));
-    command.add_flag("--diferenca", options.difference, "percentual pelo valor da diferença");
-    command.add_flag("--periodos-sem-movimento", options.idlePeriods, "mostra também os períodos sem movimento");
+    flag("--diferenca", options.difference, "percentual pelo valor da diferença");
+    flag("--periodos-sem-movimento", options.idlePeriods, "mostra também os períodos sem movimento");
     add("--totais", options.totals, "demonstração com totais já gerados: consultar como estão, ou reatualizar antes",
         "T")
         ->check(oneOf({"consultar", "reatualizar"}));
@@ -119,14 +91,14 @@ void addConsultOptions(CLI::App& command, ConsultOptions& options) {
         ->check(oneOf({"selecionado", "todos"}));
     add("--formato", options.format, "tabela (padrão), csv, json, xlsx ou html", "T")
         ->check(oneOf({"tabela", "csv", "json", "xlsx", "html"}));
-    add("--saida", options.output, "grava o resultado no arquivo F", "F");
+    add("--saida", options.output, "grava o resultado no arquivo F", "F")->check(notEmpty());
 }
 
 } // namespace
 
 std::filesystem::path defaultDemoFile() { return userFolder("XDG_DATA_HOME", ".local/share") / "demonstracao.fdb"; }
 
-ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string& version) {
+ParsedLine parseCommandLine(int argc, const char* const* argv, const std::function<std::string()>& version) {
     Options options;
     std::string passwordFile;
     ConsultOptions consult;
@@ -140,27 +112,33 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
     app.set_version_flag("--version,--versao", version, "mostra a versão")->group("Opções gerais");
     app.set_config("--config", "", "arquivo com as mesmas opções (chave = valor)")
         ->type_name("F")
+        ->check(notEmpty())
         ->group("Opções gerais");
+    // A value is one text, with whatever commas and blanks it has.
+    app.get_config_formatter_base()->arrayDelimiter('\x1F');
     app.allow_config_extras(CLI::config_extras_mode::error);
     app.require_subcommand(0, 1);
     app.fallthrough();
     app.add_option("--banco", options.database, "arquivo, ou servidor/porta:caminho; sem ela, o banco de demonstração")
         ->envname("ORCREAL_BANCO")
-        ->check(CLI::Validator([](std::string& given) { return given.empty() ? "está vazio" : std::string(); }, ""))
+        ->check(notEmpty())
         ->type_name("ALVO");
     app.add_option("--usuario-banco", options.credentials.user, "usuário do banco de dados")->type_name("U");
     app.add_option("--senha-arquivo", passwordFile, "a senha na primeira linha de F (ou em ORCREAL_SENHA)")
-        ->type_name("F");
+        ->type_name("F")
+        ->check(notEmpty());
     app.add_option("--empresa", options.login.company, "empresa logada, pelo código (padrão: a menor)")
         ->type_name("N")
-        ->check(number(0, LargestCode));
+        ->transform(number(0, LargestCode));
     app.add_option("--filial", options.login.establishment, "estabelecimento logado, pelo número (padrão: o menor)")
         ->type_name("N")
-        ->check(number(0, LargestCode));
+        ->transform(number(0, LargestCode));
     app.add_option("--usuario", options.login.user, "usuário logado, pelo código (padrão: o menor)")
         ->type_name("N")
-        ->check(number(0, LargestCode));
-    app.add_option("--pasta-log", options.login.logFolder, "pasta de log do hospedeiro")->type_name("D");
+        ->transform(number(0, LargestCode));
+    app.add_option("--pasta-log", options.login.logFolder, "pasta de log do hospedeiro")
+        ->type_name("D")
+        ->check(notEmpty());
 
     auto* windowCommand = app.add_subcommand("janela", "abre a janela (também sem nenhum comando)");
 
@@ -169,10 +147,11 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
 
     auto* demoCommand = app.add_subcommand("demo", "cria o banco de dados de demonstração");
     demoCommand->add_option("--destino", demo.destination, "arquivo a criar (padrão: na pasta de dados do usuário)")
-        ->type_name("F");
+        ->type_name("F")
+        ->check(notEmpty());
     demoCommand->add_option("--escala", demo.scale, "multiplica projeções, contas e diário (padrão 1)")
         ->type_name("N")
-        ->check(number(1, 1000));
+        ->transform(number(1, 1000));
 
     auto* scriptCommand =
         app.add_subcommand("roteiro", "executa um roteiro na janela e escreve o que acontece em JSON");
@@ -193,19 +172,23 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
         return {{}, app.help(), false}; // of the command, where one stands before it
-    } catch (const CLI::CallForVersion&) {
-        return {{}, version + "\n", false};
+    } catch (const CLI::CallForVersion& called) {
+        return {{}, std::string(called.what()) + "\n", false};
     } catch (const CLI::ExtrasError& error) {
         return wrongUse("Opção ou comando desconhecido: " + behind(error.what(), ": "));
     } catch (const CLI::FileError&) {
         return wrongUse("O arquivo de opções " + app.get_config_ptr()->as<std::string>() + " não pôde ser lido");
+    } catch (const CLI::ConversionError& error) { // of a flag; other values have been looked at
+        return wrongUse("Valor inválido em " + behind(error.what(), ": "));
     } catch (const CLI::ConfigError& error) {
-        return wrongUse("O arquivo de opções tem uma linha que não se entende: " + behind(error.what(), ": "));
+        return wrongUse("O arquivo de opções tem uma linha que não se entende: " + behind(error.what(), "parse "));
     } catch (const CLI::RequiredError&) {
         return wrongUse("Falta o arquivo do roteiro; \"-\" lê a entrada padrão");
     } catch (const CLI::ArgumentMismatch& error) {
-        return wrongUse("Falta o valor da opção " +
-                        std::string(error.what()).substr(0, std::string(error.what()).find(':')));
+        const std::string text = error.what();
+        const auto name = text.substr(0, text.find(':'));
+        return wrongUse(text.find("At Most") == std::string::npos ? "Falta o valor da opção " + name
+                                                                  : "A opção " + name + " foi dada mais de uma vez");
     } catch (const CLI::ParseError& error) {
         return wrongUse("Valor inválido em " + std::string(error.what()));
     }

@@ -3,6 +3,7 @@
 #include "suite/firebird/Target.h"
 #include "suite/program/Login.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -60,10 +61,10 @@ struct ParsedLine {
     bool failed = false;
 };
 
-// Throws host::TFalha when the password file cannot be read.
-ParsedLine parseCommandLine(int argc, const char* const* argv, const std::string& version);
+// The version is asked for only where the line does. Throws host::TFalha when the password file cannot be read.
+ParsedLine parseCommandLine(int argc, const char* const* argv, const std::function<std::string()>& version);
 
-// Where the demo database of this user lives.
+// Where the demo database of this user lives. Throws host::TFalha as userFolder does.
 std::filesystem::path defaultDemoFile();
 
 } // namespace suite::program

@@ -3,6 +3,7 @@
 #include "demo/Demo.h"
 #include "host/Falhas.h"
 #include "host/Servicos.h"
+#include "host/Texto.h"
 #include "suite/firebird/Connection.h"
 #include "suite/program/ConsultCommand.h"
 #include "suite/program/DesktopCommand.h"
@@ -45,9 +46,10 @@ void makeDemo(const std::filesystem::path& file, int scale, Interrupt& interrupt
 ExitCode runDemo(const DemoOptions& options, Interrupt& interrupt) {
     const auto file = options.destination.empty() ? defaultDemoFile() : std::filesystem::path(options.destination);
     if (options.destination.empty())
-        std::filesystem::create_directories(file.parent_path());
+        makeFolder(file.parent_path());
     makeDemo(file, options.scale, interrupt);
-    std::cout << "Banco de demonstração criado em " << std::filesystem::absolute(file).string() << "\n";
+    std::cout << "Banco de demonstração criado em " << host::SemControles(std::filesystem::absolute(file).string())
+              << "\n";
     return ExitCode::Done;
 }
 
@@ -56,9 +58,9 @@ std::string databaseOf(const Options& options, Interrupt& interrupt) {
     if (!options.database.empty())
         return options.database;
     const auto file = defaultDemoFile();
+    makeFolder(file.parent_path());
     if (!std::filesystem::exists(file)) {
-        std::filesystem::create_directories(file.parent_path());
-        std::cerr << "Criando o banco de demonstração em " << file.string() << "\n";
+        std::cerr << "Criando o banco de demonstração em " << host::SemControles(file.string()) << "\n";
         makeDemo(file, 1, interrupt);
     }
     return file.string();
@@ -86,8 +88,9 @@ ExitCode runOnDatabase(const Options& options, Interrupt& interrupt) {
     services.EmpresaLogada = &login;
     services.Contabil = &login;
     services.Sistema = &login;
-    LayoutStore layouts(userFolder("XDG_DATA_HOME", ".local/share") / "leiautes");
-    services.Leiautes = &layouts;
+    LayoutStore layouts(layoutFolder);
+    if (options.script) // a single consultation chooses no layout
+        services.Leiautes = &layouts;
     const host::TInstalacaoServicos loggedIn(services);
     const Module module(moduleFile());
     const auto stop = [&] { return interrupt.requested(); };
@@ -96,11 +99,14 @@ ExitCode runOnDatabase(const Options& options, Interrupt& interrupt) {
     return code != ExitCode::Done && interrupt.requested() ? ExitCode::Cancelled : code;
 }
 
-std::string versionText() {
-    const Module module(moduleFile());
-    const auto& information = module.information();
-    return "orcreal " ORCREAL_VERSAO "\n" + std::string(information.Nome) + ": " + std::string(information.Descricao) +
-           " (banco de dados a partir da versão " + std::string(module.versionRecord("MinVersionDatabase")) + ")";
+std::string versionOfAll() {
+    try {
+        const Module module(moduleFile());
+        return versionText(&module);
+    } catch (const host::TFalha& failure) {
+        std::cerr << host::LinhasSemControles(failure.what()) << "\n";
+        return versionText(nullptr);
+    }
 }
 
 ExitCode runCommand(const Options& options, Interrupt& interrupt) {
@@ -108,15 +114,15 @@ ExitCode runCommand(const Options& options, Interrupt& interrupt) {
         return runDemo(*options.demo, interrupt);
     if (options.consult || options.script || options.verify)
         return runOnDatabase(options, interrupt);
-    return runDesktopCommand(options, versionText(), interrupt);
+    return runDesktopCommand(options, interrupt);
 }
 
 ExitCode report(const host::TFalhaBanco& failure) {
-    std::cerr << failure.what() << "\n";
-    if (failure.Tipo() == host::TTipoFalhaBanco::Cancelado)
-        return ExitCode::Cancelled;
-    std::cerr << "(" << failure.Diagnostico() << ")\n";
-    return ExitCode::DatabaseFailure;
+    std::cerr << host::LinhasSemControles(failure.what()) << "\n";
+    const auto code = exitCodeOf(failure);
+    if (code == ExitCode::DatabaseFailure)
+        std::cerr << "(" << host::LinhasSemControles(failure.Diagnostico()) << ")\n";
+    return code;
 }
 
 } // namespace
@@ -124,12 +130,13 @@ ExitCode report(const host::TFalhaBanco& failure) {
 ExitCode run(int argc, const char* const* argv) {
     Interrupt interrupt;
     try {
-        const auto line = parseCommandLine(argc, argv, versionText());
+        const auto line = parseCommandLine(argc, argv, versionOfAll);
+        const auto text = host::LinhasSemControles(line.text);
         if (line.failed) {
-            std::cerr << line.text;
+            std::cerr << text;
             return ExitCode::WrongUse;
         }
-        std::cout << line.text;
+        std::cout << text;
         const auto code = line.options ? runCommand(*line.options, interrupt) : ExitCode::Done;
         if (!std::cout.flush() && code == ExitCode::Done)
             throw host::TFalha("Não foi possível escrever o resultado na saída.");
@@ -140,10 +147,11 @@ ExitCode run(int argc, const char* const* argv) {
     } catch (const host::TFalhaBanco& failure) {
         return report(failure);
     } catch (const host::TFalha& failure) {
-        std::cerr << failure.what() << "\n";
+        std::cerr << host::LinhasSemControles(failure.what()) << "\n";
         return ExitCode::Refused;
     } catch (const std::exception& fault) {
-        std::cerr << "O programa encontrou uma falha interna e parou: " << fault.what() << "\n";
+        std::cerr << "O programa encontrou uma falha interna e parou: " << host::LinhasSemControles(fault.what())
+                  << "\n";
         return ExitCode::Refused;
     }
 }

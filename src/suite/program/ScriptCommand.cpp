@@ -2,6 +2,7 @@
 
 #include "host/Falhas.h"
 #include "host/Registro.h"
+#include "host/Texto.h"
 #include "suite/script/ScriptRunner.h"
 
 #include <fstream>
@@ -11,17 +12,22 @@ namespace suite::program {
 
 namespace {
 
+// A failure of the database outranks what the steps behind it ran into.
 ExitCode play(std::istream& script, const host::TFabricaDeForm& window, const std::function<bool()>& cancelled) {
+    script::ScriptRunner runner(script, std::cout, window, cancelled);
+    auto code = ExitCode::Done;
     try {
-        script::ScriptRunner(script, std::cout, window, cancelled).run();
+        runner.run();
     } catch (const script::ScriptFailure& failure) {
         std::cout.flush();
-        std::cerr << failure.what() << "\n";
-        return failure.kind() == script::ScriptFailure::Kind::WrongStep ? ExitCode::WrongUse : ExitCode::Refused;
+        std::cerr << host::LinhasSemControles(failure.what()) << "\n";
+        code = failure.kind() == script::ScriptFailure::Kind::WrongStep ? ExitCode::WrongUse : ExitCode::Refused;
     }
-    if (!std::cout)
+    if (const auto& failure = runner.databaseFailure())
+        throw host::TFalhaBanco(*failure);
+    if (code == ExitCode::Done && !std::cout)
         throw host::TFalha("Não foi possível escrever o resultado na saída.");
-    return ExitCode::Done;
+    return code;
 }
 
 } // namespace

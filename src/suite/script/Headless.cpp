@@ -1,8 +1,7 @@
 #include "suite/script/Headless.h"
 
 #include "host/Falhas.h"
-
-#include <algorithm>
+#include "host/Texto.h"
 
 namespace suite::script {
 
@@ -11,8 +10,11 @@ int Headless::Mensagem(const host::TMensagem& message) {
     const auto answer = question && onQuestion ? onQuestion(message) : Answer{};
     if (answer.code != 0)
         return answer.code;
-    std::string text = message.Texto;
-    std::replace(text.begin(), text.end(), '\r', '\n');
+    auto text = host::LinhasSemControles(message.Texto);
+    if (message.Causa) {
+        text += "\n(" + host::LinhasSemControles(message.Causa->Diagnostico()) + ")";
+        failure_ = message.Causa;
+    }
     progress_.clear();
     // The rules may tell the same thing on leaving a field and at the commit; one line says it.
     if (text != last_)

@@ -11,7 +11,8 @@
 namespace suite::script {
 
 // The host without a screen: messages go to a stream, dialogs are driven by a function, progress is drawn on a
-// terminal. A question that nobody answers is a host::TFalha.
+// terminal. A message that tells of a database failure is followed by its diagnosis. A question that nobody answers is
+// a host::TFalha.
 class Headless final : public host::TInteracao {
   public:
     Headless(std::ostream& messages, bool terminal) : messages_(messages), progress_(messages, terminal) {}
@@ -26,6 +27,8 @@ class Headless final : public host::TInteracao {
     std::function<Answer(const host::TMensagem&)> onQuestion;
     // Whether the user wants the work under way to stop.
     std::function<bool()> onCancelQuery;
+    // Of the database, told by the message that was shown last of such; none where it failed in nothing.
+    const std::optional<host::TFalhaBanco>& failure() const { return failure_; }
     // Number of messages shown so far.
     int messageCount() const { return count_; }
 
@@ -42,6 +45,7 @@ class Headless final : public host::TInteracao {
     TerminalProgress progress_;
     int count_ = 0;
     std::string last_;
+    std::optional<host::TFalhaBanco> failure_;
 };
 
 } // namespace suite::script

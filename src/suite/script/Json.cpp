@@ -1,26 +1,43 @@
 #include "suite/script/Json.h"
 
+#include "host/Texto.h"
+
+#include <algorithm>
 #include <cstdio>
 
 namespace suite::script {
 
+namespace {
+
+std::string escaped(unsigned point) {
+    char text[8];
+    std::snprintf(text, sizeof text, "\\u%04x", point);
+    return text;
+}
+
+} // namespace
+
+// Terminals obey U+007F to U+009F as well, so these are escaped with the controls that JSON itself forbids.
 std::string quoteJson(std::string_view text) {
     std::string quoted = "\"";
-    for (const char c : text) {
-        if (c == '"' || c == '\\') {
-            quoted += '\\';
-            quoted += c;
-        } else if (c == '\r') {
+    while (!text.empty()) {
+        const auto length = host::TamanhoDoCaractere(text);
+        const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+        if (text.front() == '"' || text.front() == '\\')
+            (quoted += '\\') += text.front();
+        else if (text.front() == '\r')
             quoted += "\\r";
-        } else if (c == '\n') {
+        else if (text.front() == '\n')
             quoted += "\\n";
-        } else if (static_cast<unsigned char>(c) < 0x20) {
-            char escape[8];
-            std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(c));
-            quoted += escape;
-        } else {
-            quoted += c;
-        }
+        else if (length == 1 && (byte(0) < 0x20 || byte(0) == 0x7F))
+            quoted += escaped(byte(0));
+        else if (length == 2 && byte(0) == 0xC2 && byte(1) < 0xA0)
+            quoted += escaped(byte(1));
+        else if (length == 0)
+            quoted += "\uFFFD"; // what is not UTF-8 is no JSON
+        else
+            quoted += text.substr(0, length);
+        text.remove_prefix(std::max<std::size_t>(length, 1));
     }
     return quoted + '"';
 }

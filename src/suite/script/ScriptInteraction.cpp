@@ -98,6 +98,8 @@ int ScriptInteraction::Mensagem(const host::TMensagem& message) {
     throwIfFailed();
     const int answer = isQuestion(message) ? takeAnswer(message) : 6;
     out_.write("mensagem", describe(message, std::to_string(answer)));
+    if (message.Causa && !databaseFailure_)
+        databaseFailure_ = message.Causa;
     return answer;
 }
 

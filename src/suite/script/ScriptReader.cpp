@@ -1,7 +1,7 @@
 #include "suite/script/ScriptReader.h"
 
-#include <array>
-#include <cstdint>
+#include "host/Texto.h"
+
 #include <utility>
 
 namespace suite::script {
@@ -16,33 +16,11 @@ std::string_view trim(std::string_view text) {
     return text.substr(0, text.find_last_not_of(Blanks) + 1);
 }
 
-// The code point that begins there, and how many bytes it has; 0 bytes where none begins.
-std::pair<std::uint32_t, std::size_t> codePointAt(std::string_view text) {
-    const auto lead = static_cast<unsigned char>(text.front());
-    const std::size_t length = lead < 0x80   ? 1
-                               : lead < 0xC0 ? 0
-                               : lead < 0xE0 ? 2
-                               : lead < 0xF0 ? 3
-                               : lead < 0xF8 ? 4
-                                             : 0;
-    if (length == 0 || length > text.size())
-        return {0, 0};
-    std::uint32_t point = length == 1 ? lead : lead & (0x7FU >> length);
-    for (std::size_t i = 1; i < length; ++i) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        if ((byte & 0xC0U) != 0x80)
-            return {0, 0};
-        point = point << 6 | (byte & 0x3FU);
-    }
-    return {point, length};
-}
-
 // What a script types comes back in its output, which must stay UTF-8.
 bool isUtf8(std::string_view text) {
-    constexpr std::array<std::uint32_t, 5> Least{0, 0, 0x80, 0x800, 0x10000};
     while (!text.empty()) {
-        const auto [point, length] = codePointAt(text);
-        if (length == 0 || point < Least[length] || point > 0x10FFFF || (point >= 0xD800 && point < 0xE000))
+        const auto length = host::TamanhoDoCaractere(text);
+        if (length == 0)
             return false;
         text.remove_prefix(length);
     }

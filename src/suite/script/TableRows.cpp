@@ -1,5 +1,6 @@
 #include "host/FormatoNumerico.h"
 #include "host/Grade.h"
+#include "host/Texto.h"
 #include "suite/script/Rows.h"
 
 #include <algorithm>
@@ -31,6 +32,7 @@ std::string cut(std::string_view text, std::size_t width) {
 struct Column {
     const ShownColumn* shown;
     const host::TField* field;
+    std::string title;
     bool number;
     std::size_t width;
     std::vector<std::string> cells;
@@ -61,13 +63,15 @@ bool isZero(const host::TValor& value) {
 }
 
 Column load(const host::TDataSet& rows, const ShownColumn& shown) {
-    Column column{&shown, rows.FindField(shown.field), false, length(shown.title), {}, {}};
+    Column column{&shown, rows.FindField(shown.field), host::SemControles(shown.title), false, 0, {}, {}};
+    column.width = length(column.title);
     const auto& cells = rows.Colunas()[column.field->Indice()];
     column.number = cells.Descricao().Tipo != host::TTipoColuna::Texto;
     for (std::size_t i = 0; i < rows.RecordCount(); ++i) {
         const auto value = cells.Valor(rows.LinhaDe(i));
-        auto text = shown.zeroIsBlank && isZero(value) ? std::string()
-                                                       : host::TextoExibido(value, column.field->FormatoExibicao);
+        auto text = shown.zeroIsBlank && isZero(value)
+                        ? std::string()
+                        : host::SemControles(host::TextoExibido(value, column.field->FormatoExibicao));
         column.width = std::max(column.width, length(text));
         column.cells.push_back(std::move(text));
     }
@@ -96,7 +100,7 @@ std::string fit(std::vector<Column>& columns, std::size_t width) {
         });
         if (last->shown->rank == 0)
             break;
-        left += (left.empty() ? "" : ", ") + last->shown->title;
+        left += (left.empty() ? "" : ", ") + last->title;
         columns.erase(last);
     }
     const auto used = lineWidth(columns);
@@ -133,7 +137,7 @@ void writeTable(std::ostream& out, const host::TDataSet& rows, std::span<const S
         if (auto loaded = load(rows, column); !empty(loaded))
             columns.push_back(std::move(loaded));
     const auto left = fit(columns, width);
-    writeLine(out, columns, [](const Column& c) { return std::string_view(c.shown->title); });
+    writeLine(out, columns, [](const Column& c) { return std::string_view(c.title); });
     writeLine(out, columns, [line = std::string()](const Column& c) mutable {
         line.clear();
         for (std::size_t i = 0; i < c.width; ++i)

@@ -1,5 +1,7 @@
 #include "suite/script/TerminalProgress.h"
 
+#include "host/Texto.h"
+
 namespace suite::script {
 
 namespace {
@@ -48,12 +50,12 @@ void TerminalProgress::show(const std::string& text, std::size_t done, std::size
 // Without wrapping: a line over two rows could not be drawn over.
 void TerminalProgress::draw(const std::string& line) {
     if (terminal_)
-        out_ << "\r\033[K\033[?7l" << line << "\033[?7h" << std::flush;
+        out_ << "\r\033[K\033[?7l" << host::SemControles(line) << "\033[?7h" << std::flush;
 }
 
 void TerminalProgress::keep(const std::string& line) {
     if (terminal_)
-        out_ << "\r\033[K" << line << std::endl;
+        out_ << "\r\033[K" << host::SemControles(line) << std::endl;
 }
 
 void TerminalProgress::clear() { draw(""); }
