@@ -41,30 +41,42 @@ AS
     DECLARE VARIABLE LPER VARCHAR(20);
     DECLARE VARIABLE LTOTALBASE NUMERIC(15,2);
     DECLARE VARIABLE LTOTALORCADO NUMERIC(15,2);
-    DECLARE VARIABLE LTOTALREALIZADO NUMERIC(15,2);%2:s
+    DECLARE VARIABLE LTOTALREALIZADO NUMERIC(15,2);
+    DECLARE VARIABLE LCLASSIF VARCHAR(32765);
+    DECLARE VARIABLE LCLASSIFCONTAB VARCHAR(32765);
+    DECLARE VARIABLE LNOMECONTA VARCHAR(32765);
+    DECLARE VARIABLE LNOMECCUSTO VARCHAR(32765);
+    DECLARE VARIABLE LCTATITULO BIGINT;
+    DECLARE VARIABLE LSUBCONTA BIGINT;
+    DECLARE VARIABLE LCCUSTO BIGINT;
+    DECLARE VARIABLE LFILIAL BIGINT;
+    DECLARE VARIABLE LALEM BOOLEAN;%2:s
 BEGIN
     IDCTBORCADAINF = 0;
+    LTOTALBASE = 0;
+    LTOTALORCADO = 0;
 %3:s
     FOR
 %4:s
     %5:s
     INTO :TIPOLINHA,
          :DESCTIPOLINHA,
-         :CTATITULO,
-         :CLASSIF,
-         :CLASSIFCONTAB,
+         :LCTATITULO,
+         :LCLASSIF,
+         :LCLASSIFCONTAB,
          :CONTA,
-         :NOMECONTA,
-         :SUBCONTA,
-         :FILIAL,
-         :NOMECCUSTO,
-         :CCUSTO,
+         :LNOMECONTA,
+         :LSUBCONTA,
+         :LFILIAL,
+         :LNOMECCUSTO,
+         :LCCUSTO,
          :IDPLANO,
          :IDPLANOSUB,
          :IDDEMACTOT,
          :ANO%6:s
     DO
     BEGIN
+        LALEM = FALSE;
 %7:s
         SUSPEND;
     END
@@ -154,6 +166,12 @@ inline constexpr const char* VariaveisDoPeriodo = R"(
     DECLARE VARIABLE LDATAINICIO%0:d TIMESTAMP;
     DECLARE VARIABLE LDATAFIM%0:d TIMESTAMP;)";
 
+inline constexpr const char* VariaveisDasPartes = R"(
+    DECLARE VARIABLE ALTOVAL%0:d NUMERIC(15,2);
+    DECLARE VARIABLE ALTOVALVERT%0:d NUMERIC(15,2);
+    DECLARE VARIABLE LPERC%0:d NUMERIC(15,4);
+    DECLARE VARIABLE ALTOPERC%0:d NUMERIC(15,4);)";
+
 inline constexpr const char* GuardarPeriodo = R"(
         IF (LCOUNTTPPERIODO = %0:d) THEN
         BEGIN
@@ -162,56 +180,83 @@ inline constexpr const char* GuardarPeriodo = R"(
             LDATAFIM%0:d = LDATAFIM;
         END)";
 
-inline constexpr const char* ValorDoPeriodo = R"(,
-               SUM(CASE
-                       WHEN (CO01_CTBORCADAINF.DATAINICIO = :LDATAINICIO%0:d) AND (CO01_CTBORCADAINF.DATAFIM = :LDATAFIM%0:d)
-                           THEN COALESCE(CO01_CTBORCADAVLR.%1:s,0)
-                       ELSE 0
-                   END) AS VAL%0:d)";
+// Whether a value row is of the period.
+inline constexpr const char* NoPeriodo =
+    "(CO01_CTBORCADAINF.DATAINICIO = :LDATAINICIO%0:d) AND (CO01_CTBORCADAINF.DATAFIM = :LDATAFIM%0:d)";
 
-inline constexpr const char* BaseVerticalDoPeriodo = R"(,
+// Sum of an amount in a period. %0:s name of the column, %1:s whether a row counts, %2:s the amount, %3:s what stands
+// for a row that does not count.
+inline constexpr const char* SomaDoPeriodo = R"(,
                SUM(CASE
-                       WHEN (CO01_CTBORCADAINF.DATAINICIO = :LDATAINICIO%0:d) AND (CO01_CTBORCADAINF.DATAFIM = :LDATAFIM%0:d)
-                           THEN COALESCE(CTBORCADAVLRRELVERT.%1:s,0)
-                       ELSE 0
-                   END) AS VALVERT%0:d)";
+                       WHEN %1:s
+                           THEN %2:s
+                       ELSE %3:s
+                   END) AS %0:s)";
 
 inline constexpr const char* SemPercentual = R"(,
                NULL AS PERC%0:d)";
 
-inline constexpr const char* PercentualOrcado = R"(,
-               SUM(CASE
-                       WHEN (CO01_CTBORCADAINF.DATAINICIO = :LDATAINICIO%0:d) AND (CO01_CTBORCADAINF.DATAFIM = :LDATAFIM%0:d)
-                           THEN COALESCE(CAST(CO01_CTBORCADAVLR.PERCORCADO AS NUMERIC(10,2)),NULL)
-                       ELSE NULL
-                   END) AS PERC%0:d)";
+inline constexpr const char* PercentualOrcado = "CAST(CO01_CTBORCADAVLR.PERCORCADO AS NUMERIC(10,2))";
 
-// %1:s column of the divisor, %2:s what is taken off the percentage.
-inline constexpr const char* PercentualRealizado = R"(,
-               SUM(CASE
-                       WHEN (CO01_CTBORCADAINF.DATAINICIO = :LDATAINICIO%0:d) AND (CO01_CTBORCADAINF.DATAFIM = :LDATAFIM%0:d)
-                            AND (COALESCE(CO01_CTBORCADAVLR.%1:s,0) <> 0)
-                           THEN ((COALESCE(CO01_CTBORCADAVLR.VLRREALIZADO,0) * 100) / CO01_CTBORCADAVLR.%1:s) %2:s
-                       ELSE 0
-                   END) AS PERC%0:d)";
+// Percentage of an actual: %0:s column of the divisor.
+inline constexpr const char* PercentualRealizado =
+    "((COALESCE(CO01_CTBORCADAVLR.VLRREALIZADO,0) * 100) / CO01_CTBORCADAVLR.%0:s)";
 
-inline constexpr const char* PercentualVertical =
-    "        PERC%0:d = IIF((:VALVERT%0:d <> 0), (:VAL%0:d * 100/:VALVERT%0:d), NULL);";
+// Its parts; what cannot be computed makes a high part that no sum holds. %0:s the percentage, %1:s whether it is
+// small, %2:s whether it fits, %3:s what is taken off it.
+inline constexpr const char* PercentualBaixo = R"(CASE
+                                    WHEN %1:s THEN %0:s
+                                    WHEN %2:s THEN %0:s - %0:s / 1000000000 * 1000000000
+                                    ELSE 0
+                                END %3:s)";
+inline constexpr const char* PercentualAlto = R"(CASE
+                                    WHEN %0:s THEN NULL
+                                    WHEN %1:s THEN %2:s / 1000000000
+                                    ELSE 1000000000
+                                END)";
 
 inline constexpr const char* DestinoDoPeriodo = R"(,
          :VAL%0:d,
          :PERC%0:d)";
+
+inline constexpr const char* DestinoDoPeriodoEmPartes = R"(,
+         :VAL%0:d,
+         :ALTOVAL%0:d,
+         :LPERC%0:d,
+         :ALTOPERC%0:d)";
 
 inline constexpr const char* DestinoDoPeriodoVertical = R"(,
          :VAL%0:d,
          :VALVERT%0:d,
          :PERC%0:d)";
 
+inline constexpr const char* DestinoDoPeriodoVerticalEmPartes = R"(,
+         :VAL%0:d,
+         :ALTOVAL%0:d,
+         :VALVERT%0:d,
+         :ALTOVALVERT%0:d,
+         :PERC%0:d)";
+
+// A low sum takes up its high one (see SqlLimites.h). %0:s the low, %1:s the high one.
+inline constexpr const char* Juntar = R"(
+        BEGIN
+            %0:s = %0:s + COALESCE(%1:s, 0) * 1000000000;
+            WHEN SQLSTATE '22003' DO
+            BEGIN
+                %0:s = NULL;
+                LALEM = TRUE;
+            END
+        END)";
+
+inline constexpr const char* PercentualDoPeriodo = R"(
+        PERC%0:d = LPERC%0:d;)";
+
 // Totals of a row. An actual row sees those of the base and the budget of its line, which stand before it.
-// %0:s sum of the values, %1:s total that the percentage is of, %2:s what is taken off the percentage.
+// %0:s sum of the values, %1:s total that the percentage is of, %2:s what is taken off the percentage, %3:s joining of
+// the parts, %4:s whether the percentage fits.
 inline constexpr const char* TotaisDaLinha =
     R"(        /* O percentual será calculado sobre: - Se o valor orçado for diferente de zero: Percentual = (Valor realizado * 100)/Valor orçado - Senão Percentual = Zero */
-        TOTAL = %0:s;
+        TOTAL = %0:s;%3:s
         PERCTOT = NULL;
         IF (DESCTIPOLINHA = 'B') THEN
         BEGIN
@@ -224,16 +269,54 @@ inline constexpr const char* TotaisDaLinha =
         IF (DESCTIPOLINHA = 'R') THEN
         BEGIN
             LTOTALREALIZADO = TOTAL;
-            IF (%1:s <> 0) THEN
+            IF (%1:s = 0) THEN
+                PERCTOT = 0;
+            ELSE IF (%4:s) THEN
                 PERCTOT = ((COALESCE(:LTOTALREALIZADO,0) * 100) / %1:s) %2:s;
             ELSE
-                PERCTOT = 0;
+                LALEM = TRUE;
         END)";
 
-// %0:s percentages of the periods, %1:s sum of the values, %2:s sum of the base values.
-inline constexpr const char* TotaisDaLinhaVertical = R"(%0:s
-        TOTAL = %1:s;
-        TOTALVERT = %2:s;
-        PERCTOT = IIF((:TOTALVERT <> 0), (:TOTAL * 100/:TOTALVERT), NULL);)";
+// %0:s sum of the values, %1:s sum of the base values, %2:s joining of the parts, %3:s percentages.
+inline constexpr const char* TotaisDaLinhaVertical = R"(        TOTAL = %0:s;
+        TOTALVERT = %1:s;%2:s
+%3:s)";
+
+// %0:s the percentage, %1:s its value, %2:s its base, %3:s whether it fits.
+inline constexpr const char* PercentualVertical =
+    R"(        %0:s = IIF((:%2:s <> 0) AND %3:s, (:%1:s * 100/:%2:s), NULL);
+        IF (%0:s IS NULL AND %2:s <> 0) THEN
+            LALEM = TRUE;)";
+
+// Codes and texts of a row. Where one does not fit, a code is NULL and a text is cut. %0:s the cuts.
+inline constexpr const char* Identificacao = R"(
+        BEGIN
+            CTATITULO = LCTATITULO;
+            CLASSIF = LCLASSIF;
+            CLASSIFCONTAB = LCLASSIFCONTAB;
+            NOMECONTA = LNOMECONTA;
+            SUBCONTA = LSUBCONTA;
+            FILIAL = LFILIAL;
+            NOMECCUSTO = LNOMECCUSTO;
+            CCUSTO = LCCUSTO;
+            WHEN SQLSTATE '22001', SQLSTATE '22003' DO
+            BEGIN%0:s
+            END
+        END)";
+
+// %0:s column, %1:s the largest that it holds.
+inline constexpr const char* CodigoQueCabe = R"(
+                %0:s = IIF(L%0:s BETWEEN -%1:s AND %1:s, L%0:s, NULL);
+                IF (%0:s IS NULL AND L%0:s IS NOT NULL) THEN
+                    LALEM = TRUE;)";
+
+// %0:s column, %1:d its length.
+inline constexpr const char* TextoQueCabe = R"(
+                %0:s = IIF(CHAR_LENGTH(L%0:s) > %1:d, SUBSTRING(L%0:s FROM 1 FOR %1:d - 3) || '...', L%0:s);)";
+
+// %0:s the mark of a line that lacks something, %1:d length that the name has before it.
+inline constexpr const char* MarcaDaLinha = R"(
+        IF (LALEM) THEN
+            NOMECONTA = IIF(CHAR_LENGTH(LNOMECONTA) > %1:d, SUBSTRING(LNOMECONTA FROM 1 FOR %1:d - 3) || '...', LNOMECONTA) || '%0:s';)";
 
 } // namespace pct04618::sql

@@ -3,6 +3,7 @@
 #include "host/Texto.h"
 #include "queries/Condicoes.h"
 #include "queries/SqlBalanco.h"
+#include "queries/SqlLimites.h"
 
 namespace pct04618 {
 
@@ -10,10 +11,20 @@ namespace {
 
 using host::Format;
 
+// What begins with the text, as an operand of LIKE. The text's own wildcards stand for themselves.
+std::string ComecaPor(const std::string& ATexto) {
+    if (ATexto.find_first_of("_%") == std::string::npos)
+        return host::QuotedStr(ATexto + "%");
+    std::string LTexto;
+    for (const char C : ATexto)
+        LTexto += C == '_' || C == '%' || C == '\\' ? std::string{'\\', C} : std::string{C};
+    return host::QuotedStr(LTexto + "%") + " ESCAPE '\\'";
+}
+
 // One account chosen alone brings all accounts below it; several are taken as they are.
 std::string CondicaoContas(const TDM04618& ADm) {
     if (ADm.FIDPlano > 0)
-        return "AND CO01_PLANO.CLASSIFCONTAB LIKE " + host::QuotedStr(ADm.FClassificacao + "%");
+        return "AND CO01_PLANO.CLASSIFCONTAB LIKE " + ComecaPor(ADm.FClassificacao);
     if (!ADm.FIDsContas.empty())
         return "AND(" + ADm.FIDsContas + ")";
     return {};
@@ -22,6 +33,32 @@ std::string CondicaoContas(const TDM04618& ADm) {
 std::string CondicaoCentroCusto(const TDM04618& ADm) {
     return ADm.FIDsCentroCusto.empty() ? std::string() : " AND (" + ADm.FIDsCentroCusto + ")";
 }
+
+std::string Baixa(const char* AColuna) { return "SUM(COALESCE(" + Format(sql::ParteBaixa, {AColuna}) + ", 0))"; }
+std::string Alta(const char* AColuna) { return "SUM(" + Format(sql::ParteAlta, {AColuna}) + ")"; }
+std::string Soma(const char* AColuna) { return Format(sql::SomaNoLimite, {Baixa(AColuna), Alta(AColuna)}); }
+
+std::string Diferenca(const char* AColuna, const char* AOutra) {
+    return Format(sql::SomaNoLimite, {"(" + Baixa(AColuna) + " - " + Baixa(AOutra) + ")",
+                                      "(COALESCE(" + Alta(AColuna) + ", 0) - COALESCE(" + Alta(AOutra) + ", 0))"});
+}
+
+std::string Percentual() {
+    return Format(sql::BalancoPercentual,
+                  {Format(sql::PercentualCabe, {"ORCADO.VLRREALIZADO", "ORCADO.VLRORCADO", "9.223372036854774E12"})});
+}
+
+std::string Cabe(const char* AColuna) { return Format(sql::BalancoCabe, {AColuna}); }
+std::string Valor(const char* AColuna) { return Format(sql::BalancoValor, {AColuna, Cabe(AColuna)}); }
+
+std::string Nome() {
+    return Format(sql::BalancoNome, {Cabe("ORCADO2.VLRBASE"), Cabe("ORCADO2.VLRORCADO"), Cabe("ORCADO2.VLRREALIZADO"),
+                                     Cabe("ORCADO2.DELTAVLR"), sql::MarcaAlemDoLimite});
+}
+
+constexpr const char* Base = "CO01_CTBORCADAVLR.VLRBASE";
+constexpr const char* Orcado = "CO01_CTBORCADAVLR.VLRORCADO";
+constexpr const char* Realizado = "CO01_CTBORCADAVLR.VLRREALIZADO";
 
 } // namespace
 
@@ -42,6 +79,18 @@ std::string TDM04618::BuscarDadosOrcamentariaComBaseNoBalanco() const {
                       CondicaoFilial(*this),
                       CondicaoCentroCusto(*this),
                       CondicaoContas(*this),
+                      Soma(Base),
+                      Soma(Orcado),
+                      Soma(Realizado),
+                      Diferenca(Orcado, Realizado),
+                      Percentual(),
+                      Nome(),
+                      Valor("ORCADO2.VLRBASE"),
+                      Valor("ORCADO2.VLRORCADO"),
+                      Valor("ORCADO2.VLRREALIZADO"),
+                      Valor("ORCADO2.DELTAVLR"),
+                      "CAST(ORCADO2.DELTAPERC AS NUMERIC(15,6))",
+                      sql::BalancoVariacao,
                   });
 }
 

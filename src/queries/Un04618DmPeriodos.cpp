@@ -1,8 +1,10 @@
 #include "core/Un04618Const.h"
 #include "core/Un04618Dm.h"
+#include "host/Falhas.h"
 #include "host/Texto.h"
 #include "queries/Condicoes.h"
 #include "queries/Periodo.h"
+#include "queries/SqlLimites.h"
 #include "queries/SqlPeriodos.h"
 #include "queries/SqlPeriodosLinhas.h"
 
@@ -18,6 +20,8 @@ struct TTipoLinha {
     const char* Coluna;
     const char* Ano;
 };
+
+constexpr std::string_view NumeroAlemDoLimite = "22003"; // SQLSTATE
 
 constexpr TTipoLinha LinhaBase{1, "B", "VLRBASE", "LANOBASE"};
 constexpr TTipoLinha LinhaOrcado{2, "O", "VLRORCADO", "LANOORC"};
@@ -63,6 +67,7 @@ std::string Juncoes(const TDM04618& ADm) {
                       ADm.FIDDemac,
                       ADm.FImprimirDetContasTotaliz ? "" : "\n  AND CO01_CTBORCADAVLR.IDPLANO IS NULL",
                       ADm.FIDsTotalizadores.empty() ? "" : "\n  AND(" + ADm.FIDsTotalizadores + ")",
+                      host::Trim(ADm.FInformacoesCtbOrcadaInf.LListaIDs),
                   });
 }
 
@@ -73,21 +78,69 @@ std::string Condicoes(const TDM04618& ADm) {
            Linha(LCentros.empty() ? "" : Format(sql::CondicaoCentroCusto, {LCentros}));
 }
 
-// Value and percentage of a line in one period.
-std::string ColunasDoPeriodo(const TDM04618& ADm, const TTipoLinha& ALinha, std::int64_t APeriodo) {
-    const auto LValor = Format(sql::ValorDoPeriodo, {APeriodo, ALinha.Coluna});
-    if (Vertical(ADm))
-        return LValor + Format(sql::BaseVerticalDoPeriodo, {APeriodo, ALinha.Coluna}) +
-               Format(sql::SemPercentual, {APeriodo});
-    if (ALinha.Tipo == LinhaOrcado.Tipo)
-        return LValor + Format(sql::PercentualOrcado, {APeriodo});
-    if (ALinha.Tipo == LinhaRealizado.Tipo)
-        return LValor + Format(sql::PercentualRealizado,
-                               {APeriodo, SobreBase(ADm) ? LinhaBase.Coluna : LinhaOrcado.Coluna, Diferenca(ADm)});
-    return LValor + Format(sql::SemPercentual, {APeriodo});
+// How the amounts of a line are summed. Whole is what nearly every database takes. In parts no sum overflows, and what
+// does not fit is NULL in its own line; it takes twice the sums.
+enum class TSoma { Inteira, EmPartes };
+
+// Percentages have four decimals until they stand in their column, and may have 100 taken off.
+std::string PercentualCabe(const TDM04618& ADm, const std::string& AValor, const std::string& ADivisor) {
+    return Format(sql::PercentualCabe,
+                  {AValor, ADivisor, ADm.FCalcularPercentualDiferenca ? "922337203685377" : "922337203685477.2"});
 }
 
-std::string LinhasDoTipo(const TDM04618& ADm, const TTipoLinha& ALinha) {
+std::string ColunasDaSoma(const std::string& ANome, const std::string& AQuando, const std::string& ABaixo,
+                          const std::string& AAlto, const char* ASenao) {
+    return Format(sql::SomaDoPeriodo, {ANome, AQuando, ABaixo, ASenao}) +
+           Format(sql::SomaDoPeriodo, {"ALTO" + ANome, AQuando, AAlto, "NULL"});
+}
+
+std::string Valor(TSoma ASoma, const std::string& ANome, const std::string& AQuando, const std::string& AColuna) {
+    if (ASoma == TSoma::Inteira)
+        return Format(sql::SomaDoPeriodo, {ANome, AQuando, "COALESCE(" + AColuna + ",0)", "0"});
+    return ColunasDaSoma(ANome, AQuando, "COALESCE(" + Format(sql::ParteBaixa, {AColuna}) + ",0)",
+                         Format(sql::ParteAlta, {AColuna}), "0");
+}
+
+std::string PercentualOrcado(TSoma ASoma, const std::string& ANome, const std::string& AQuando) {
+    if (ASoma == TSoma::Inteira)
+        return Format(sql::SomaDoPeriodo, {ANome, AQuando, sql::PercentualOrcado, "NULL"});
+    return ColunasDaSoma(ANome, AQuando, Format(sql::ParteBaixa, {sql::PercentualOrcado}),
+                         Format(sql::ParteAlta, {sql::PercentualOrcado}), "NULL");
+}
+
+std::string PercentualRealizado(const TDM04618& ADm, TSoma ASoma, const std::string& ANome,
+                                const std::string& APeriodo) {
+    const std::string LColuna = SobreBase(ADm) ? LinhaBase.Coluna : LinhaOrcado.Coluna;
+    const auto LDivisor = "CO01_CTBORCADAVLR." + LColuna;
+    const auto LQuando = APeriodo + " AND (COALESCE(" + LDivisor + ",0) <> 0)";
+    const auto LPercentual = Format(sql::PercentualRealizado, {LColuna});
+    if (ASoma == TSoma::Inteira)
+        return Format(sql::SomaDoPeriodo, {ANome, LQuando, LPercentual + " " + Diferenca(ADm), "0"});
+    const std::string LRealizado = "COALESCE(CO01_CTBORCADAVLR.VLRREALIZADO,0)";
+    const auto LPequeno = Format(sql::PercentualCabe, {LRealizado, LDivisor, "1E9"});
+    const auto LCabe = PercentualCabe(ADm, LRealizado, LDivisor);
+    return ColunasDaSoma(ANome, LQuando, Format(sql::PercentualBaixo, {LPercentual, LPequeno, LCabe, Diferenca(ADm)}),
+                         Format(sql::PercentualAlto, {LPequeno, LCabe, LPercentual}), "0");
+}
+
+// Value and percentage of a line in one period.
+std::string ColunasDoPeriodo(const TDM04618& ADm, TSoma ASoma, const TTipoLinha& ALinha, std::int64_t APeriodo) {
+    const auto LQuando = Format(sql::NoPeriodo, {APeriodo});
+    const auto LNumero = std::to_string(APeriodo);
+    const auto LValor = Valor(ASoma, "VAL" + LNumero, LQuando, std::string("CO01_CTBORCADAVLR.") + ALinha.Coluna);
+    const auto LSemPercentual = Format(sql::SemPercentual, {APeriodo});
+    if (Vertical(ADm))
+        return LValor +
+               Valor(ASoma, "VALVERT" + LNumero, LQuando, std::string("CTBORCADAVLRRELVERT.") + ALinha.Coluna) +
+               LSemPercentual;
+    if (ALinha.Tipo == LinhaOrcado.Tipo)
+        return LValor + PercentualOrcado(ASoma, "PERC" + LNumero, LQuando);
+    if (ALinha.Tipo == LinhaRealizado.Tipo)
+        return LValor + PercentualRealizado(ADm, ASoma, "PERC" + LNumero, LQuando);
+    return LValor + LSemPercentual + (ASoma == TSoma::EmPartes ? ", NULL AS ALTOPERC" + LNumero : "");
+}
+
+std::string LinhasDoTipo(const TDM04618& ADm, TSoma ASoma, const TTipoLinha& ALinha) {
     const bool LSeparaFiliais = !ADm.FAgruparValFiliais && !ADm.FEhConsolidadoHolding;
     return Format(sql::LinhasDoTipo,
                   {
@@ -96,7 +149,7 @@ std::string LinhasDoTipo(const TDM04618& ADm, const TTipoLinha& ALinha) {
                       Recuado(ADm.FImprimirOrcamentariaBal ? sql::CabecaContas : sql::CabecaTotalizadores, 15),
                       LSeparaFiliais ? "COALESCE(SC00_FILIAL.FILIAL, 0) AS FILIAL" : "0 AS FILIAL",
                       ALinha.Ano,
-                      PorPeriodo("", [&](std::int64_t I) { return ColunasDoPeriodo(ADm, ALinha, I); }),
+                      PorPeriodo("", [&](std::int64_t I) { return ColunasDoPeriodo(ADm, ASoma, ALinha, I); }),
                       Recuado(Juncoes(ADm), 9),
                       host::Trim(ADm.FInformacoesCtbOrcadaInf.LListaIDs),
                       Condicoes(ADm),
@@ -104,11 +157,11 @@ std::string LinhasDoTipo(const TDM04618& ADm, const TTipoLinha& ALinha) {
 }
 
 // The line types that are on, one below the other.
-std::string Linhas(const TDM04618& ADm) {
+std::string Linhas(const TDM04618& ADm, TSoma ASoma) {
     std::string LTexto;
     const auto LAcrescentar = [&](bool ALigada, const TTipoLinha& ALinha) {
         if (ALigada)
-            LTexto += (LTexto.empty() ? "" : "\n        UNION ALL\n") + LinhasDoTipo(ADm, ALinha);
+            LTexto += (LTexto.empty() ? "" : "\n        UNION ALL\n") + LinhasDoTipo(ADm, ASoma, ALinha);
     };
     LAcrescentar(ADm.FDetalharLinhaVlrBase, LinhaBase);
     LAcrescentar(ADm.FDetalharLinhaVlrOrcado, LinhaOrcado);
@@ -116,26 +169,87 @@ std::string Linhas(const TDM04618& ADm) {
     return LTexto;
 }
 
-std::string Totais(const TDM04618& ADm) {
-    const auto LSoma = PorPeriodo(" + ", "VAL%0:d");
-    if (Vertical(ADm))
-        return Format(sql::TotaisDaLinhaVertical,
-                      {PorPeriodo("\n", sql::PercentualVertical), LSoma, PorPeriodo(" + ", "VALVERT%0:d")});
-    return Format(sql::TotaisDaLinha, {LSoma, SobreBase(ADm) ? ":LTOTALBASE" : ":LTOTALORCADO", Diferenca(ADm)});
+// A total and the periods it is of take up their high sums: first the total, as long as the periods are low.
+std::string JuntarPartes(const char* ATotal, const std::string& AColuna) {
+    const auto LAltos =
+        PorPeriodo(" + ", [&](std::int64_t I) { return "COALESCE(ALTO" + AColuna + std::to_string(I) + ", 0)"; });
+    return Format(sql::Juntar, {ATotal, "(" + LAltos + ")"}) + PorPeriodo("", [&](std::int64_t I) {
+               const auto LColuna = AColuna + std::to_string(I);
+               return Format(sql::Juntar, {LColuna, "ALTO" + LColuna});
+           });
 }
 
-std::string Bloco(const TDM04618& ADm, bool AImpPerComMov) {
+std::string PercentualVertical(const TDM04618& ADm, const std::string& APercentual, const std::string& AValor,
+                               const std::string& ABase) {
+    return Format(sql::PercentualVertical,
+                  {APercentual, AValor, ABase, PercentualCabe(ADm, ":" + AValor, ":" + ABase)});
+}
+
+std::string TotaisVerticais(const TDM04618& ADm, TSoma ASoma) {
+    const auto LPercentuais = PorPeriodo("\n", [&](std::int64_t I) {
+        const auto LNumero = std::to_string(I);
+        return PercentualVertical(ADm, "PERC" + LNumero, "VAL" + LNumero, "VALVERT" + LNumero);
+    });
+    return Format(
+        sql::TotaisDaLinhaVertical,
+        {
+            PorPeriodo(" + ", "VAL%0:d"),
+            PorPeriodo(" + ", "VALVERT%0:d"),
+            ASoma == TSoma::Inteira ? "" : JuntarPartes("TOTAL", "VAL") + JuntarPartes("TOTALVERT", "VALVERT"),
+            LPercentuais + "\n" + PercentualVertical(ADm, "PERCTOT", "TOTAL", "TOTALVERT"),
+        });
+}
+
+std::string TotaisSimples(const TDM04618& ADm, TSoma ASoma) {
+    const std::string LDivisor = SobreBase(ADm) ? ":LTOTALBASE" : ":LTOTALORCADO";
+    const auto LPercentuais = PorPeriodo("", [](std::int64_t I) {
+        return Format(sql::Juntar, {"LPERC" + std::to_string(I), "ALTOPERC" + std::to_string(I)}) +
+               Format(sql::PercentualDoPeriodo, {I});
+    });
+    return Format(sql::TotaisDaLinha, {
+                                          PorPeriodo(" + ", "VAL%0:d"),
+                                          LDivisor,
+                                          Diferenca(ADm),
+                                          ASoma == TSoma::Inteira ? "" : JuntarPartes("TOTAL", "VAL") + LPercentuais,
+                                          PercentualCabe(ADm, ":LTOTALREALIZADO", LDivisor),
+                                      });
+}
+
+std::string Identificacao() {
+    std::string LCortes;
+    for (const char* LCodigo : {"SUBCONTA", "FILIAL", "CCUSTO"})
+        LCortes += Format(sql::CodigoQueCabe, {LCodigo, "2147483647"});
+    LCortes += Format(sql::CodigoQueCabe, {"CTATITULO", "32767"});
+    constexpr std::int64_t Nome = 500;
+    for (const auto& [LColuna, LTamanho] : {std::pair<const char*, std::int64_t>{"CLASSIF", 50},
+                                            {"CLASSIFCONTAB", 50},
+                                            {"NOMECCUSTO", 40},
+                                            {"NOMECONTA", Nome}})
+        LCortes += Format(sql::TextoQueCabe, {LColuna, LTamanho});
+    return Format(sql::Identificacao, {LCortes}) +
+           Format(sql::MarcaDaLinha, {sql::MarcaAlemDoLimite, Nome - sql::TamanhoDaMarca});
+}
+
+const char* Destino(const TDM04618& ADm, TSoma ASoma) {
+    if (Vertical(ADm))
+        return ASoma == TSoma::Inteira ? sql::DestinoDoPeriodoVertical : sql::DestinoDoPeriodoVerticalEmPartes;
+    return ASoma == TSoma::Inteira ? sql::DestinoDoPeriodo : sql::DestinoDoPeriodoEmPartes;
+}
+
+std::string Bloco(const TDM04618& ADm, TSoma ASoma, bool AImpPerComMov) {
     const bool LVertical = Vertical(ADm);
+    const auto LTotais = LVertical ? TotaisVerticais(ADm, ASoma) : TotaisSimples(ADm, ASoma);
     return Format(sql::Periodos, {
                                      PorPeriodo("", LVertical ? sql::RetornoDoPeriodoVertical : sql::RetornoDoPeriodo),
                                      LVertical ? "\n    TOTALVERT NUMERIC(15,2)," : "",
-                                     PorPeriodo("", sql::VariaveisDoPeriodo),
+                                     PorPeriodo("", sql::VariaveisDoPeriodo) +
+                                         (ASoma == TSoma::Inteira ? "" : PorPeriodo("", sql::VariaveisDasPartes)),
                                      Varredura(ADm, AImpPerComMov),
-                                     Linhas(ADm),
+                                     Linhas(ADm, ASoma),
                                      ADm.FImprimirOrcamentariaBal ? "ORDER BY 5, 7, 8, 11, 9, 1"
                                                                   : "ORDER BY 4,14, 12, 13, 7, 8, 11, 9, 1",
-                                     PorPeriodo("", LVertical ? sql::DestinoDoPeriodoVertical : sql::DestinoDoPeriodo),
-                                     Totais(ADm),
+                                     PorPeriodo("", Destino(ADm, ASoma)),
+                                     LTotais + Identificacao(),
                                  });
 }
 
@@ -145,9 +259,16 @@ void TDM04618::BuscarDadosOrcamentariaBalancoOuDemonstConfigDemonstPeriodosEmCol
                                                                                      host::TZTSQLDataSet& ASqlDataSet,
                                                                                      bool AImpPerComMov) {
     ADataSet.Close();
-    ADataSet.CommandText = Bloco(*this, AImpPerComMov);
     ASqlDataSet.ParamCheck = false; // names with a colon are the block's own variables
-    ADataSet.Open();
+    ADataSet.CommandText = Bloco(*this, TSoma::Inteira, AImpPerComMov);
+    try {
+        ADataSet.Open();
+    } catch (const host::TFalhaBanco& E) {
+        if (E.Estado() != NumeroAlemDoLimite)
+            throw;
+        ADataSet.CommandText = Bloco(*this, TSoma::EmPartes, AImpPerComMov);
+        ADataSet.Open();
+    }
 }
 
 } // namespace pct04618

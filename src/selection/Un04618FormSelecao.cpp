@@ -95,11 +95,14 @@ void TForm04618Selecao::ActOKExecute(host::TControle*) {
     LEncerrar();
 }
 
+// A view that was changed and not left stands beside the modes of the other one: for those there is no query.
 void TForm04618Selecao::ExecutarConsultaDoModo() {
-    const bool LEmColunas = Modo() == ModoPeriodosEmColunas || Modo() == ModoMatricial;
+    const auto LModo = Modo();
+    const bool LBalanco = Visualizacao() == 1 && (LModo == ModoAgrupandoPeriodos || LModo == ModoPeriodoExato);
+    const bool LEmColunas = LModo == ModoPeriodosEmColunas || LModo == ModoMatricial;
     if (Visualizacao() == 2 && LEmColunas && !AtualizarTotalizacoes())
         return;
-    if (Visualizacao() == 1 || Modo() == ModoPeriodosEmColunas)
+    if (LBalanco || LModo == ModoPeriodosEmColunas)
         BuscarInformacoesOrcamentaria();
 }
 
@@ -194,10 +197,11 @@ void TForm04618Selecao::AtribuirHolding() {
     FDm04618.FIDsFiliaisDaHolding = BuscarIDsMultiselecao(LkpEmpresa, "CO01_CTBORCADAINF.IDFILIAL = ", "IDFILIAL");
 }
 
-// What the boxes show is what runs.
+// What the boxes show is what runs, but for vertical analysis: boxes may show it from an earlier view, and only
+// totalizers have a vertical base.
 TDetalhePercentual TForm04618Selecao::DetalhePercentual() const {
     const auto LVale = [](const host::TZTCheckBox& ACaixa) { return ACaixa.Enabled() && ACaixa.Checked(); };
-    if (LVale(ChkDetPercAnaliseVertical))
+    if (Visualizacao() == 2 && LVale(ChkDetPercAnaliseVertical))
         return TDetalhePercentual::dpVertical;
     return LVale(ChkDetPercRealizadoXBase) ? TDetalhePercentual::dpRealizadoXBase
                                            : TDetalhePercentual::dpRealizadoXOrcado;

@@ -79,6 +79,64 @@ TEST_F(PeriodosDaDemonstracao, VerticalMedeCadaTipoPelaBaseDoMesmoEstabeleciment
               Abrir("1", campos));
 }
 
+TEST_F(PeriodosDaDemonstracao, BaseRepetidaNaoMultiplicaValor) {
+    Mes(1, "01/01/2024 31/01/2024");
+    Demonstracao();
+    Conta("1, 101", "0, 0, 0");
+    copia.executar("ALTER TABLE CO01_DEMACTOTVERT DROP CONSTRAINT PK_CO01_DEMACTOTVERT;"
+                   "INSERT INTO CO01_DEMACTOTVERT (IDDEMACTOT, IDDEMACTOTBASE) VALUES (22, 20);"
+                   "INSERT INTO CO01_DEMACTOTVERT (IDDEMACTOT, IDDEMACTOTBASE) VALUES (22, 21);");
+    const char* const colunas = "IDCTBORCADAVLR, IDFILIAL, VLRORCADO, VLRREALIZADO";
+    Totalizador(20, colunas, "9001, 11, 999, 999");
+    Totalizador(20, colunas, "9000, 11, 200, 400");
+    Totalizador(20, colunas, "9002, 12, 100, 100");
+    Totalizador(22, colunas, "9003, 11, 50, 30");
+    Totalizador(22, colunas, "9004, 12, 50, 30");
+    SoLinhas(false, true, true);
+    auto& d = Dm();
+    const Lista plana{"O|50.00||50.00|", "R|30.00|60.00|30.00|60.00", "O|50.00||50.00|", "R|30.00|60.00|30.00|60.00"};
+    const auto ultimas = [](const Lista& linhas) { return Lista(linhas.end() - 4, linhas.end()); };
+    d.FDetalharPercentual = TDetalhePercentual::dpRealizadoXOrcado;
+    EXPECT_EQ(plana, ultimas(Abrir("1", {"DESCTIPOLINHA", "VAL1", "PERC1", "TOTAL", "PERCTOT"})));
+    d.FDetalharPercentual = TDetalhePercentual::dpVertical;
+    EXPECT_EQ((Lista{"O|50.00|200.00|25.00", "R|30.00|400.00|7.50", "O|50.00|100.00|50.00", "R|30.00|100.00|30.00"}),
+              ultimas(Abrir("1", {"DESCTIPOLINHA", "VAL1", "VALVERT1", "PERCTOT"})))
+        << "the lowest base, and of its total rows the lowest key";
+}
+
+// Amounts beyond the limit, beside one that only passes through it.
+TEST_F(PeriodosDaDemonstracao, AlemDoLimiteSoEsvaziaASuaLinha) {
+    Mes(1, "01/01/2024 31/01/2024");
+    Mes(2, "01/02/2024 29/02/2024");
+    Demonstracao();
+    Conta("1, 101", "0, 0, 0");
+    Conta("2, 101", "0, 0, 0");
+    const char* const colunas = "IDFILIAL, VLRBASE, VLRORCADO, VLRREALIZADO";
+    Totalizador(20, colunas, "11, 100, 92233720368547758.07, 0.01");
+    Valor("IDCTBORCADAINF, IDDEMACTOT, IDFILIAL, VLRORCADO", "2, 20, 11, 0.01");
+    Totalizador(21, colunas, "11, 7, 92233720368547758.07, -92233720368547758.08");
+    Totalizador(21, colunas, "11, 8, -92233720368547758.07, 0");
+    Totalizador(22, colunas, "11, 50, 50, 10000000000000");
+    Dm().FDetalharPercentual = TDetalhePercentual::dpVertical;
+    const Campos campos{"NOMECONTA", "DESCTIPOLINHA", "VAL1", "VALVERT1", "PERC1", "TOTAL", "TOTALVERT", "PERCTOT"};
+    EXPECT_EQ((Lista{"Receita|B|100.00|100.00|100.00|100.00|100.00|100.00",
+                     "Receita [valor além do limite]|O|92233720368547758.07|92233720368547758.07||||",
+                     "Receita|R|0.01|0.01|100.00|0.01|0.01|100.00", "Produtos [10]|B|15.00|0.00||15.00|0.00|",
+                     "Produtos [10]|O|0.00|0.00||0.00|0.00|",
+                     "Produtos [10]|R|-92233720368547758.08|0.00||-92233720368547758.08|0.00|",
+                     "Serviços [10]|B|50.00|100.00|50.00|50.00|100.00|50.00",
+                     "Serviços [10]|O|50.00|92233720368547758.07|0.00|50.00|92233720368547758.07|0.00",
+                     "Serviços [10] [valor além do limite]|R|10000000000000.00|0.01||10000000000000.00|0.01|"}),
+              Abrir("1, 2", campos));
+    Dm().FDetalharPercentual = TDetalhePercentual::dpRealizadoXBase;
+    Dm().FCalcularPercentualDiferenca = true;
+    SoLinhas(true, false, true);
+    EXPECT_EQ((Lista{"Receita|B||", "Receita|R|-99.99|-99.99", "Produtos [10]|B||",
+                     "Produtos [10] [valor além do limite]|R||", "Serviços [10]|B||",
+                     "Serviços [10]|R|19999999999900.00|19999999999900.00"}),
+              Abrir("1, 2", {"NOMECONTA", "DESCTIPOLINHA", "PERC1", "PERCTOT"}));
+}
+
 TEST_F(PeriodosDaDemonstracao, NomeCompridoEhCortadoEmVezDeDerrubarAConsulta) {
     Mes(1, "01/01/2024 31/01/2024");
     Demonstracao();
@@ -91,7 +149,7 @@ TEST_F(PeriodosDaDemonstracao, NomeCompridoEhCortadoEmVezDeDerrubarAConsulta) {
     Dm().FImprimirDetContasTotaliz = true;
     const auto linhas = Abrir("1", {"NOMECONTA"});
     ASSERT_EQ(1U, linhas.size());
-    EXPECT_EQ(std::string(400, 'n') + " [" + std::string(60, 's') + "] [CC:" + std::string(32, 'c'), linhas[0]);
+    EXPECT_EQ(std::string(400, 'n') + " [" + std::string(60, 's') + "] [CC:" + std::string(29, 'c') + "...", linhas[0]);
 }
 
 TEST(InstrucaoDosPeriodos, CadaFormaDevolveAsColunasCombinadas) {
