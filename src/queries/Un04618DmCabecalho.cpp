@@ -29,8 +29,10 @@ void TDM04618::RemoverValorRealizado(const std::string& AIDsOrcadaInf) {
         host::GZTUtilsDialogs.Informacao("Valores realizados excluídos com sucesso.");
     } catch (const std::exception& E) {
         LConexao.CancelarTransacao(*LTransacao);
+        const auto* LFalha = dynamic_cast<const host::TFalhaBanco*>(&E);
         host::GZTUtilsDialogs.Erro(std::string("Não foi possível remover o valor realizado da projeção.\r\rErro: ") +
-                                   E.what());
+                                       E.what(),
+                                   LFalha ? std::optional(*LFalha) : std::nullopt);
         throw host::Abort();
     }
     CdsExcluirCtbOrcadaVlr.Close();

@@ -101,12 +101,17 @@ TEST(GradeLinhas, SomaEhExataENaoContaTitulo) {
     std::vector<Dados::Linha> valores{linha(t("título"), d(9'999'999'999), 1, 1)};
     for (int i = 0; i < 1000; ++i)
         valores.push_back(linha(t("x"), i % 2 == 0 ? d(9'007'199'254'740'993) : d(-9'007'199'254'740'990)));
-    valores.push_back(linha(t("nulo"), host::Nulo));
+    valores.push_back(linha(t("título"), host::Nulo, 1, 1));
     Conjunto c({}, valores);
     c.ordem({});
     EXPECT_EQ("15.00", c.soma(c.linhas.totalSet()));
     EXPECT_TRUE(c.linhas.sums().onlyAnalytic());
     EXPECT_FALSE(c.linhas.sums().sum(c.linhas.totalSet(), 2)) << "an establishment is no amount";
+
+    Conjunto comFalta({}, {linha(t("a"), d(100)), linha(t("a"), host::Nulo), linha(t("b"), d(3))});
+    comFalta.ordem({}, {0});
+    EXPECT_EQ("nenhuma", comFalta.soma(0)) << "an amount beyond what its column holds is missing";
+    EXPECT_EQ("0.03", comFalta.soma(1));
 
     const auto maximo = std::numeric_limits<std::int64_t>::max();
     Conjunto grande({}, {linha(t("a"), d(maximo)), linha(t("a"), d(1)), linha(t("b"), d(3))});

@@ -101,7 +101,7 @@ QString GridModel::reasonText(std::size_t set, int index) const {
     case NoSum::Totalizers:
         return QStringLiteral("Sem soma: os totalizadores já contêm as contas e seriam contados duas vezes.");
     case NoSum::TooLarge:
-        return QStringLiteral("A soma é grande demais para ser exata.");
+        return QStringLiteral("Sem soma: ela, ou um dos valores, passa do que se pode mostrar com exatidão.");
     case NoSum::None:
         break;
     }

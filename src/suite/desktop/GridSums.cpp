@@ -54,7 +54,9 @@ void GridSums::add(std::size_t set, std::size_t row) {
     if (type_ && !type_->Nulo(row))
         note(set, type_->Unidades(row));
     for (std::size_t k = 0; k < fields_.size(); ++k)
-        if (!columns_[k]->Nulo(row))
+        if (columns_[k]->Nulo(row)) // an amount beyond what its column holds
+            tooLarge_[set * fields_.size() + k] = true;
+        else
             put(set, k, columns_[k]->Unidades(row));
 }
 

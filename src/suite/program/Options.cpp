@@ -87,7 +87,9 @@ void addConsultOptions(CLI::App& command, ConsultOptions& options) {
         "T")
         ->check(oneOf({"consultar", "reatualizar"}));
     add("--dependencias", options.dependencies,
-        "demonstração que depende de outras: gerar só os totais do selecionado, ou de todos", "D")
+        "demonstração que depende de outras: gerar só os totais do selecionado, com os das outras como estão gravados, "
+        "ou de todos; as que usam o selecionado não são geradas: reatualize-as depois",
+        "D")
         ->check(oneOf({"selecionado", "todos"}));
     add("--formato", options.format, "tabela (padrão), csv, json, xlsx ou html", "T")
         ->check(oneOf({"tabela", "csv", "json", "xlsx", "html"}));

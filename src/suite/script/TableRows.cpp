@@ -51,8 +51,8 @@ std::string totalOf(const host::TDataSet& rows, const host::TField& field) {
     host::TDecimal sum{0, field.Descricao().Escala};
     const auto& column = rows.Colunas()[field.Indice()];
     for (std::size_t i = 0; i < column.Tamanho(); ++i)
-        if (!column.Nulo(i) && !isTitle(rows, i) &&
-            __builtin_add_overflow(sum.Unidades, column.Unidades(i), &sum.Unidades))
+        if (!isTitle(rows, i) && // an amount beyond what its column holds is NULL
+            (column.Nulo(i) || __builtin_add_overflow(sum.Unidades, column.Unidades(i), &sum.Unidades)))
             return "—"; // no sum is better than a wrong one
     return host::FormatarNumero(sum, field.FormatoExibicao);
 }
