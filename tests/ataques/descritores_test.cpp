@@ -71,6 +71,27 @@ TEST_F(Nomes, TudoFuncionaComQualquerLetra) {
     ::unsetenv("LC_ALL");
 }
 
+TEST_F(Nomes, AJanelaAbreQualquerCaminhoESaiQuandoPedem) {
+    const auto banco = copiar(pasta / "orçado é.fdb");
+    const auto aberto = [&] {
+        const fs::path travas = pasta / ".orcreal-lock";
+        return fs::exists(travas) && std::distance(fs::directory_iterator(travas), fs::directory_iterator()) > 1;
+    };
+    Processo janela({"--banco", banco, "janela"}, raiz, [&] {
+        ::setenv("LC_ALL", "C", 1);
+        ::setenv("HOME", (raiz / "joão").c_str(), 1);
+        ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    });
+    for (int vez = 0; vez < 1000 && !aberto(); ++vez)
+        std::this_thread::sleep_for(10ms);
+    EXPECT_TRUE(aberto());
+    std::this_thread::sleep_for(500ms);
+    const auto antes = std::chrono::steady_clock::now();
+    janela.sinal(SIGTERM);
+    EXPECT_EQ(4, janela.esperar().codigo);
+    EXPECT_LT(std::chrono::steady_clock::now() - antes, 1500ms);
+}
+
 // The engine takes a colon for the end of a server's name: such a place can hold everything but the database.
 TEST_F(Nomes, DoisPontosSaoExplicados) {
     const auto banco = copiar(pasta / "a.fdb");

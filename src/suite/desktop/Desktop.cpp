@@ -15,6 +15,7 @@
 #include <QTranslator>
 
 #include <atomic>
+#include <clocale>
 #include <cstdlib>
 
 namespace suite::desktop {
@@ -151,6 +152,7 @@ void runDesktop(const DesktopProgram& program) {
     char name[] = "orcreal";
     char* arguments[] = {name, nullptr};
     QApplication application(count, arguments);
+    std::setlocale(LC_CTYPE, "C.UTF-8"); // names of files again, which the toolkit has just left to the environment
     QTranslator texts;
     prepare(application, texts);
     Aside aside;
