@@ -117,9 +117,8 @@ class LockFolder {
 
     std::string belongsToAnother() const {
         return "A pasta de travas " + path_.string() +
-               " não é do dono do banco de dados. Com o banco fechado em todos os programas, remova-a (ou peça a quem "
-               "a "
-               "criou) e tente novamente.";
+               " não é do dono do banco de dados. Com o banco fechado em todos os programas, remova-a, ou peça a "
+               "quem a criou, e tente novamente.";
     }
     std::string fullDisk() const {
         return "Não há espaço no disco do banco de dados para as travas em " + path_.string() +
@@ -169,11 +168,8 @@ class LockFolder {
         const bool ours = shared_ || ::geteuid() == 0 || status.st_uid == owner_;
         if (!ours || !S_ISREG(status.st_mode) || status.st_nlink > 1)
             refuse(path_, "Na pasta de travas " + path_.string() +
-                              " há um arquivo que o programa não criou ou de outro "
-                              "usuário (" +
-                              std::string(name) +
-                              "). Com o banco fechado em todos os programas, remova a "
-                              "pasta e tente novamente.");
+                              " há um arquivo que não é do programa ou é de outro " + "usuário (" + name +
+                              "). Com o banco fechado em todos os programas, remova a pasta e " + "tente novamente.");
     }
     void checkSpace() {
         struct statvfs disk {};
