@@ -35,6 +35,7 @@ class Programa : public testing::Test {
             ::setrlimit(RLIMIT_FSIZE, &tamanho);
             ::signal(SIGXFSZ, SIG_IGN); // the write fails, as on a full disk
         }
+        ::signal(SIGINT, SIG_DFL); // also where the run of the tests has it ignored
         static_cast<void>(::freopen(erro.c_str(), "w", stderr));
         ::execl(ORCREAL_PROGRAMA, "orcreal", "demo", "--destino", destino.c_str(), "--escala", escala, nullptr);
         ::_exit(127);

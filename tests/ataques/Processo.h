@@ -62,6 +62,8 @@ class Processo {
         filho_ = ::fork();
         if (filho_ != 0)
             return;
+        for (const int sinal : {SIGINT, SIGTERM, SIGHUP}) // whatever the run of the tests has ignored
+            ::signal(sinal, SIG_DFL);
         ::dup2(::open("/dev/null", O_RDONLY | O_CLOEXEC), STDIN_FILENO);
         ::dup2(::open(saida_.c_str(), O_CREAT | O_TRUNC | O_WRONLY | O_CLOEXEC, 0666), STDOUT_FILENO);
         ::dup2(::open(erro_.c_str(), O_CREAT | O_TRUNC | O_WRONLY | O_CLOEXEC, 0666), STDERR_FILENO);

@@ -89,7 +89,7 @@ TEST_F(Nomes, AJanelaAbreQualquerCaminhoESaiQuandoPedem) {
     const auto antes = std::chrono::steady_clock::now();
     janela.sinal(SIGTERM);
     EXPECT_EQ(4, janela.esperar().codigo);
-    EXPECT_LT(std::chrono::steady_clock::now() - antes, 1500ms);
+    EXPECT_LT(std::chrono::steady_clock::now() - antes, 5s);
 }
 
 // The engine takes a colon for the end of a server's name: such a place can hold everything but the database.

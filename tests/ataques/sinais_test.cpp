@@ -123,7 +123,7 @@ TEST_F(Sinais, EnquantoODemoEFeitoNadaFica) {
         processo.sinal(sinal);
         const auto antes = std::chrono::steady_clock::now();
         const auto fim = processo.esperar();
-        EXPECT_LT(std::chrono::steady_clock::now() - antes, sinal == SIGINT ? 5s : 2s) << sinal;
+        EXPECT_LT(std::chrono::steady_clock::now() - antes, 5s) << sinal; // a second, and what a busy machine adds
         EXPECT_TRUE(fim.codigo == 4 || fim.codigo == 128 + sinal) << fim.codigo << fim.erro; // before main it just ends
         somente({".orcreal-lock"});
     }
@@ -162,7 +162,7 @@ TEST_F(ServidorAtacado, CaladoNaoPrendeQuemVaiEmbora) {
         processo.sinal(sinal);
         const auto antes = std::chrono::steady_clock::now();
         EXPECT_EQ(4, processo.esperar(20s).codigo);
-        EXPECT_LT(std::chrono::steady_clock::now() - antes, 1500ms); // a second, and what a busy machine adds
+        EXPECT_LT(std::chrono::steady_clock::now() - antes, 5s);
     }
 }
 
