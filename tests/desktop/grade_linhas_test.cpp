@@ -108,6 +108,10 @@ TEST(GradeLinhas, SomaEhExataENaoContaTitulo) {
     EXPECT_TRUE(c.linhas.sums().onlyAnalytic());
     EXPECT_FALSE(c.linhas.sums().sum(c.linhas.totalSet(), 2)) << "an establishment is no amount";
 
+    Conjunto semMarca({}, {linha(t("a"), d(100)), Dados::Linha{t("a"), d(7), host::Inteiro(1), host::Nulo}});
+    semMarca.ordem({});
+    EXPECT_EQ("1.00", semMarca.soma(semMarca.linhas.totalSet())) << "neither title nor analytic";
+
     Conjunto comFalta({}, {linha(t("a"), d(100)), linha(t("a"), host::Nulo), linha(t("b"), d(3))});
     comFalta.ordem({}, {0});
     EXPECT_EQ("nenhuma", comFalta.soma(0)) << "an amount beyond what its column holds is missing";

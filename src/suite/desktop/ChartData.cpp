@@ -27,6 +27,11 @@ class Rows {
         const auto found = number(position, field);
         return found ? found->Unidades : 0;
     }
+    // A line without a mark is neither title nor analytic.
+    bool analytic(std::size_t position) const {
+        const auto mark = number(position, "CTATITULO");
+        return mark && !(*mark == host::TDecimal{1, 0});
+    }
     QString text(std::size_t position, std::string_view field) const {
         return fromUtf8(TextoDe(value(position, field))).trimmed();
     }
@@ -78,7 +83,7 @@ ChartData deviationsOf(const Rows& rows, const std::vector<std::uint32_t>& lines
     };
     std::vector<Deviation> found;
     for (const auto line : lines)
-        if (const auto units = rows.whole(line, "DELTAVLR"); units != 0 && rows.whole(line, "CTATITULO") != 1)
+        if (const auto units = rows.whole(line, "DELTAVLR"); units != 0 && rows.analytic(line))
             found.push_back({line, std::abs(units)});
     const auto shown = std::min(found.size(), MostDeviations);
     std::partial_sort(found.begin(), found.begin() + static_cast<std::ptrdiff_t>(shown), found.end(),

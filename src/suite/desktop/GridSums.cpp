@@ -46,11 +46,13 @@ void GridSums::put(std::size_t set, std::size_t k, std::int64_t units) {
 }
 
 void GridSums::add(std::size_t set, std::size_t row) {
-    if (title_ && !title_->Nulo(row) &&
-        host::TDecimal{title_->Unidades(row), title_->Descricao().Escala} == host::TDecimal{1, 0})
+    const bool marked = title_ && !title_->Nulo(row);
+    if (marked && host::TDecimal{title_->Unidades(row), title_->Descricao().Escala} == host::TDecimal{1, 0})
         return;
     if (account_ && account_->Nulo(row))
         states_[set].reason = NoSum::Totalizers;
+    if (title_ && !marked)
+        return; // neither title nor analytic
     if (type_ && !type_->Nulo(row))
         note(set, type_->Unidades(row));
     for (std::size_t k = 0; k < fields_.size(); ++k)

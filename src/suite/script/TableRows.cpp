@@ -39,9 +39,18 @@ struct Column {
     std::string total;
 };
 
-bool isTitle(const host::TDataSet& rows, std::size_t row) {
+enum class Mark { Title, Analytic, None };
+
+// What a line says of itself; no mark where it holds NULL.
+Mark markOf(const host::TDataSet& rows, std::size_t row) {
     const auto* field = rows.FindField("CTATITULO");
-    return field && host::TDecimal{1, 0} == std::get<host::TDecimal>(rows.Colunas()[field->Indice()].Valor(row));
+    if (!field)
+        return Mark::Analytic;
+    const auto value = rows.Colunas()[field->Indice()].Valor(row);
+    const auto* number = std::get_if<host::TDecimal>(&value);
+    if (!number)
+        return Mark::None;
+    return *number == host::TDecimal{1, 0} ? Mark::Title : Mark::Analytic;
 }
 
 // Money of the analytic accounts. Percentages and codes have no sum.
@@ -51,7 +60,7 @@ std::string totalOf(const host::TDataSet& rows, const host::TField& field) {
     host::TDecimal sum{0, field.Descricao().Escala};
     const auto& column = rows.Colunas()[field.Indice()];
     for (std::size_t i = 0; i < column.Tamanho(); ++i)
-        if (!isTitle(rows, i) && // an amount beyond what its column holds is NULL
+        if (markOf(rows, i) == Mark::Analytic && // an amount beyond what its column holds is NULL
             (column.Nulo(i) || __builtin_add_overflow(sum.Unidades, column.Unidades(i), &sum.Unidades)))
             return "—"; // no sum is better than a wrong one
     return host::FormatarNumero(sum, field.FormatoExibicao);
@@ -145,7 +154,7 @@ void writeTable(std::ostream& out, const host::TDataSet& rows, std::span<const S
         return std::string_view(line);
     });
     for (std::size_t i = 0; i < rows.RecordCount(); ++i) {
-        const bool title = bold && isTitle(rows, rows.LinhaDe(i));
+        const bool title = bold && markOf(rows, rows.LinhaDe(i)) == Mark::Title;
         out << (title ? "\033[1m" : "");
         writeLine(out, columns, [i](const Column& c) { return std::string_view(c.cells[i]); });
         out << (title ? "\033[0m" : "");
