@@ -7,7 +7,9 @@
 #include "suite/script/ScriptRunner.h"
 #include "unidade/exportacao_apoio.h"
 
+#include <filesystem>
 #include <sstream>
+#include <unistd.h>
 
 namespace {
 
@@ -277,9 +279,10 @@ TEST(Roteiro, MostraGradeEModuloDeDados) {
 {"passo":9,"tipo":"comando","texto":"SELECT"}
 )",
         resultado.saida);
-    const auto arquivo = testing::TempDir() + "roteiro.csv";
+    const auto arquivo = testing::TempDir() + "roteiro-" + std::to_string(::getpid()) + ".csv";
     EXPECT_EQ("", executar("selecionar\nclicar actSair\nexportar " + arquivo + "\n").falha);
     EXPECT_EQ("\xEF\xBB\xBFNome;Valor\nágua;1,50\n;-0,05\n", exportacao::conteudo(arquivo));
+    std::filesystem::remove(arquivo);
     recusa("exportar " + arquivo + "\n", 2, "Linha 1: Nenhuma grade está à vista");
     recusa("selecionar\nclicar actSair\nexportar a.doc\n", 1, "Linha 3: Não é possível exportar para a.doc");
     recusa("selecionar\nclicar actSair\nmostrar celulas 3\n", 2, "Linha 3: A grade tem 2 linhas");
