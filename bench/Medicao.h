@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/Falhas.h"
 #include "core/Un04618Dm.h"
 #include "demo/Esquema.h"
-#include "host/Falhas.h"
 #include "host/Servicos.h"
 #include "suite/firebird/BulkInsert.h"
 #include "suite/firebird/Connection.h"
@@ -22,9 +22,9 @@
 namespace bench {
 
 using namespace suite::firebird;
-using host::Inteiro;
-using host::TDecimal;
-using host::TValor;
+using base::Inteiro;
+using base::TDecimal;
+using base::TValor;
 
 inline void load(Transaction& t, const char* table, std::vector<std::string> columns, int rows,
                  const std::function<std::vector<TValor>(int)>& row) {
@@ -76,13 +76,13 @@ inline void loadProjections(Transaction& t, const Chart& chart, int months) {
          {"IDCTBORCADAINF", "IDEMPRESA", "TPCENARIO", "DATAINICIO", "DATAFIM", "DATAIBALANCOREF", "TPDETALHE",
           "TPCCUSTO"},
          months, [](int i) {
-             const auto begin = *host::TDataHora::De(2024, i + 1, 1);
+             const auto begin = *base::TDataHora::De(2024, i + 1, 1);
              return std::vector<TValor>{Inteiro(i + 1),
                                         Inteiro(1),
                                         Inteiro(0),
                                         begin,
                                         begin.UltimoDiaDoMes(),
-                                        *host::TDataHora::De(2023, i + 1, 1),
+                                        *base::TDataHora::De(2023, i + 1, 1),
                                         Inteiro(2),
                                         Inteiro(1)};
          });
@@ -228,7 +228,7 @@ inline int run(int argc, char** argv, const Chart& chart, int months, const Open
         else
             return 2;
         return 0;
-    } catch (const host::TFalhaBanco& failure) {
+    } catch (const base::TFalhaBanco& failure) {
         std::cerr << failure.Diagnostico() << "\n";
     } catch (const std::exception& failure) {
         std::cerr << failure.what() << "\n";

@@ -2,9 +2,9 @@
 //   medir [LINES [distintos]]  prints seconds and megabytes; with a name of its own for each line
 //   imagens FOLDER             paints the two grids as they look, in a light and in a dark palette
 #include "bench/Medicao.h"
-#include "suite/desktop/GridPane.h"
-#include "suite/desktop/GridView.h"
-#include "suite/desktop/Text.h"
+#include "suite/desktop/grid/GridPane.h"
+#include "suite/desktop/grid/GridView.h"
+#include "suite/desktop/look/Text.h"
 #include "tests/desktop/Aplicacao.h"
 #include "tests/desktop/GradeApoio.h"
 

@@ -7,7 +7,7 @@
 #include "suite/firebird/Connection.h"
 #include "suite/program/Login.h"
 #include "suite/script/FormDriver.h"
-#include "suite/script/Headless.h"
+#include "suite/terminal/Headless.h"
 
 #include <chrono>
 #include <cstdio>
@@ -32,7 +32,7 @@ int main(int argc, char** argv) {
     if (argc != 2)
         return 2;
     suite::firebird::Connection connection(suite::firebird::Target(argv[1]), {});
-    suite::script::Headless interaction(std::cerr, false);
+    suite::terminal::Headless interaction(std::cerr, false);
     host::TServicos services;
     services.Conexao = &connection;
     services.Interacao = &interaction;

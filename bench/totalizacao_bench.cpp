@@ -25,7 +25,7 @@ void loadStatement(Transaction& t, int centres) {
     load(t, "CO01_DEMACTOT", {"IDDEMACTOT", "IDDEMAC", "IDDEMACTOTPAI", "CODIGO", "CLASSIF", "DESCRICAO", "TITULO"},
          Totalizers, [](int i) {
              const bool synthetic = i < Synthetic;
-             const auto parent = i < 12 ? host::Nulo : Inteiro(synthetic ? (i - 12) / 4 + 1 : i % 48 + 13);
+             const auto parent = i < 12 ? base::Nulo : Inteiro(synthetic ? (i - 12) / 4 + 1 : i % 48 + 13);
              return std::vector<TValor>{Inteiro(i + 1),
                                         Inteiro(1),
                                         parent,
@@ -40,12 +40,12 @@ void loadStatement(Transaction& t, int centres) {
         const int analytic = Totalizers - Synthetic;
         if (i < AccountLinks)
             return std::vector<TValor>{Inteiro(Synthetic + i % analytic + 1), Inteiro(i % Accounts + 1),
-                                       i % 10 == 0 ? Inteiro(i / 10 % centres + 1) : host::Nulo, host::Nulo};
+                                       i % 10 == 0 ? Inteiro(i / 10 % centres + 1) : base::Nulo, base::Nulo};
         const int link = i - AccountLinks;
         const bool fromAnalytic = link < 2 * LinkedAnalytic;
         const int owner = fromAnalytic ? Synthetic + link / 2 : link % 12;
         const int related = fromAnalytic ? Synthetic + LinkedAnalytic + link : 12 + link % 48;
-        return std::vector<TValor>{Inteiro(owner + 1), host::Nulo, host::Nulo, Inteiro(related + 1)};
+        return std::vector<TValor>{Inteiro(owner + 1), base::Nulo, base::Nulo, Inteiro(related + 1)};
     });
 }
 

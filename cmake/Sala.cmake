@@ -1,8 +1,8 @@
 # sala(<target> <kind> [EXCETO <file>...] [LINKS <target>...])
-# A room of the house: every source of its folder in one target, which sees only what it links.
+# A room of the house: every source of its folder and of the folders below in one target, which sees only what it links.
 function(sala alvo tipo)
   cmake_parse_arguments(SALA "" "" "EXCETO;LINKS" ${ARGN})
-  file(GLOB fontes CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} *.cpp *.h)
+  file(GLOB_RECURSE fontes CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} *.cpp *.h)
   if(SALA_EXCETO)
     list(REMOVE_ITEM fontes ${SALA_EXCETO})
   endif()

@@ -1,6 +1,6 @@
 #include "demo/ArquivoParcial.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 
 #include <cerrno>
 #include <cstring>
@@ -18,7 +18,7 @@ namespace {
 std::string Aspas(const fs::path& ACaminho) { return "\"" + ACaminho.string() + "\""; }
 
 [[noreturn]] void JaExiste(const fs::path& ADestino) {
-    throw host::TFalha("O arquivo " + Aspas(ADestino) +
+    throw base::TFalha("O arquivo " + Aspas(ADestino) +
                        " já existe e não será substituído. Escolha outro nome ou remova-o antes.");
 }
 
@@ -48,9 +48,9 @@ TArquivoParcial::TArquivoParcial(fs::path ADestino) : FDestino(fs::absolute(ADes
         JaExiste(FDestino);
     const auto LPasta = FDestino.parent_path();
     if (std::error_code LErro; !fs::is_directory(LPasta, LErro))
-        throw host::TFalha("A pasta " + Aspas(LPasta) + " não existe. Crie-a ou escolha outro destino.");
+        throw base::TFalha("A pasta " + Aspas(LPasta) + " não existe. Crie-a ou escolha outro destino.");
     if (::access(LPasta.c_str(), W_OK | X_OK) != 0)
-        throw host::TFalha("Não há permissão para gravar na pasta " + Aspas(LPasta) + ". Escolha outro destino.");
+        throw base::TFalha("Não há permissão para gravar na pasta " + Aspas(LPasta) + ". Escolha outro destino.");
     FParcial.emplace(FDestino.string() + "." + NomeSorteado() +
                      ".parcial"); // the engine makes it, and only if it is new
 }
@@ -60,7 +60,7 @@ void TArquivoParcial::Entregar() {
     if (LErro == EEXIST)
         JaExiste(FDestino);
     if (LErro != 0)
-        throw host::TFalha("Não foi possível dar ao banco de demonstração o nome " + Aspas(FDestino) + ": " +
+        throw base::TFalha("Não foi possível dar ao banco de demonstração o nome " + Aspas(FDestino) + ": " +
                            std::strerror(LErro) + ".");
     FParcial->Soltar();
 }

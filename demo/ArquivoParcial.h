@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/Passageiros.h"
+#include "base/Passageiros.h"
 
 #include <filesystem>
 #include <optional>
@@ -11,16 +11,16 @@ namespace demo {
 // unless it was delivered.
 class TArquivoParcial {
   public:
-    // Refuses a destination that exists or cannot be written. Throws host::TFalha.
+    // Refuses a destination that exists or cannot be written. Throws base::TFalha.
     explicit TArquivoParcial(std::filesystem::path ADestino);
 
     const std::filesystem::path& Caminho() const { return FParcial->Caminho(); }
-    // Gives the whole file its name. Throws host::TFalha when a file of that name appeared meanwhile.
+    // Gives the whole file its name. Throws base::TFalha when a file of that name appeared meanwhile.
     void Entregar();
 
   private:
     std::filesystem::path FDestino;
-    std::optional<host::TPassageiro> FParcial;
+    std::optional<base::TPassageiro> FParcial;
 };
 
 } // namespace demo

@@ -41,16 +41,16 @@ class TCarga {
   public:
     TCarga(suite::firebird::Transaction& ATransacao, std::string ATabela, std::vector<std::string> AColunas)
         : FInclusao(ATransacao, std::move(ATabela), std::move(AColunas)) {}
-    void Linha(std::initializer_list<host::TValor> AValores) { FInclusao.add({AValores.begin(), AValores.size()}); }
+    void Linha(std::initializer_list<base::TValor> AValores) { FInclusao.add({AValores.begin(), AValores.size()}); }
     void Terminar() { FInclusao.flush(); }
 
   private:
     suite::firebird::BulkInsert FInclusao;
 };
 
-inline host::TValor Dinheiro(TCentavos AValor) { return host::TDecimal{AValor, 2}; }
+inline base::TValor Dinheiro(TCentavos AValor) { return base::TDecimal{AValor, 2}; }
 // A key, of which zero means none.
-inline host::TValor ChaveOuNulo(std::int64_t AChave) { return AChave == 0 ? host::Nulo : host::Inteiro(AChave); }
-inline host::TValor Texto(std::string_view ATexto) { return std::string(ATexto); }
+inline base::TValor ChaveOuNulo(std::int64_t AChave) { return AChave == 0 ? base::Nulo : base::Inteiro(AChave); }
+inline base::TValor Texto(std::string_view ATexto) { return std::string(ATexto); }
 
 } // namespace demo

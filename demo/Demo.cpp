@@ -1,11 +1,11 @@
 #include "demo/Demo.h"
 
+#include "base/Falhas.h"
 #include "demo/ArquivoParcial.h"
 #include "demo/Demonstracoes.h"
 #include "demo/Diario.h"
 #include "demo/Esquema.h"
 #include "demo/Projecoes.h"
-#include "host/Falhas.h"
 #include "suite/firebird/Attachment.h"
 #include "suite/firebird/Script.h"
 #include "suite/firebird/Target.h"
@@ -71,7 +71,7 @@ void CriarChaves(Attachment& ABanco, TAndamento& AAndamento) {
 
 void Criar(const Opcoes& AOpcoes) {
     if (AOpcoes.Escala < 1)
-        throw host::TFalha("A escala do banco de demonstração deve ser um número inteiro a partir de 1.");
+        throw base::TFalha("A escala do banco de demonstração deve ser um número inteiro a partir de 1.");
     TArquivoParcial LArquivo(AOpcoes.Destino);
     TAndamento LAndamento(AOpcoes.Progresso);
     {

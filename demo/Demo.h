@@ -15,7 +15,7 @@ struct Opcoes {
 };
 
 // Makes the demo database. It is written beside its destination under another name and renamed when it is whole, so
-// that a failure, a full disk or a cancel leaves nothing. Throws host::TFalha when the destination exists already or
+// that a failure, a full disk or a cancel leaves nothing. Throws base::TFalha when the destination exists already or
 // cannot be written (folder missing, no rights) and TFalhaBanco otherwise.
 void Criar(const Opcoes& AOpcoes);
 

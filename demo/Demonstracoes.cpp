@@ -12,7 +12,7 @@ namespace demo {
 
 namespace {
 
-using host::Inteiro;
+using base::Inteiro;
 
 constexpr int PrimeiroTotalizador = 7001;
 constexpr std::string_view BaseVertical = "03"; // net revenue
@@ -147,7 +147,7 @@ class TGravacao {
         const int LDono = Id(ATotalizador.Demonstracao, ATotalizador.Classif);
         for (const auto LVinculo : Palavras(ATotalizador.Vinculos, ' ')) {
             if (LVinculo.front() == '#')
-                FVinculos.Linha({Inteiro(LDono), host::Nulo, host::Nulo, host::Nulo,
+                FVinculos.Linha({Inteiro(LDono), base::Nulo, base::Nulo, base::Nulo,
                                  Inteiro(Id(LVinculo[1] - '0', LVinculo.substr(3)))});
             else if (LVinculo.front() == '=')
                 Conta(LDono, FPlano.Lugar(LVinculo.substr(1)), 0, 0);
@@ -160,7 +160,7 @@ class TGravacao {
   private:
     void Conta(int ADono, int ALugar, int ASub, int ACentro) {
         FVinculos.Linha(
-            {Inteiro(ADono), Inteiro(FPlano.Conta(ALugar).Id), ChaveOuNulo(ASub), ChaveOuNulo(ACentro), host::Nulo});
+            {Inteiro(ADono), Inteiro(FPlano.Conta(ALugar).Id), ChaveOuNulo(ASub), ChaveOuNulo(ACentro), base::Nulo});
     }
     void Contas(int ADono, std::string_view AVinculo, std::string_view ASubs) {
         const auto LArroba = AVinculo.find('@');

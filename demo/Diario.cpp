@@ -7,7 +7,7 @@ namespace demo {
 
 namespace {
 
-using host::Inteiro;
+using base::Inteiro;
 
 constexpr TCentavos MenorValorRepartido = 30'000; // below that a month has one entry
 constexpr int UltimoDiaUtil = 28;
@@ -222,9 +222,9 @@ void TDiario::Lancar(const TLancamento& ALancamento, TCentavos AValor) {
 void TDiario::LancarLado(const TLancamento& ALancamento, int AConta, TCentavos AValor, bool AComQuotas) {
     const int LSinal = AValor < 0 ? -1 : 1;
     FDiario.Linha({Inteiro(FProximo), Inteiro(ALancamento.Filial), Inteiro(FOrcamento.Plano().Conta(AConta).Id),
-                   AComQuotas ? ChaveOuNulo(ALancamento.Sub) : host::Nulo, ALancamento.Data, Dinheiro(LSinal * AValor),
+                   AComQuotas ? ChaveOuNulo(ALancamento.Sub) : base::Nulo, ALancamento.Data, Dinheiro(LSinal * AValor),
                    Inteiro(LSinal), Inteiro(ALancamento.Origem),
-                   ALancamento.TpCtb < 0 ? host::Nulo : Inteiro(ALancamento.TpCtb), ALancamento.Historico});
+                   ALancamento.TpCtb < 0 ? base::Nulo : Inteiro(ALancamento.TpCtb), ALancamento.Historico});
     if (AComQuotas)
         for (const auto& LQuota : ALancamento.Quotas)
             if (LQuota.Valor != 0)

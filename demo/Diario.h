@@ -26,7 +26,7 @@ class TDiario {
         int Filial; // key
         int Conta;  // place in the chart
         int Sub;    // key or 0
-        host::TDataHora Data;
+        base::TDataHora Data;
         TOrigem Origem;
         int TpCtb; // -1 for NULL
         std::string Historico;

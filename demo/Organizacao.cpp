@@ -9,7 +9,7 @@ namespace demo {
 
 namespace {
 
-using host::Inteiro;
+using base::Inteiro;
 
 constexpr TEmpresa TodasAsEmpresas[] = {
     {10, 1, "Cedro Dourado Indústria de Móveis S.A.", 0, 0, 4, 1000},

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/DataHora.h"
+#include "base/DataHora.h"
 
 #include <string>
 
@@ -15,10 +15,10 @@ constexpr int MesesPorAno = 12;
 inline int AnoDoMes(int AMes) { return PrimeiroAno + AMes / MesesPorAno; }
 inline int MesNoAno(int AMes) { return AMes % MesesPorAno + 1; }
 
-inline host::TDataHora Dia(int AMes, int ADia, int AAnosAntes = 0) {
-    return host::TDataHora::De(AnoDoMes(AMes) - AAnosAntes, MesNoAno(AMes), ADia).value();
+inline base::TDataHora Dia(int AMes, int ADia, int AAnosAntes = 0) {
+    return base::TDataHora::De(AnoDoMes(AMes) - AAnosAntes, MesNoAno(AMes), ADia).value();
 }
-inline host::TDataHora UltimoDia(int AMes, int AAnosAntes = 0) { return Dia(AMes, 1, AAnosAntes).UltimoDiaDoMes(); }
+inline base::TDataHora UltimoDia(int AMes, int AAnosAntes = 0) { return Dia(AMes, 1, AAnosAntes).UltimoDiaDoMes(); }
 
 // "03/2024"
 inline std::string Competencia(int AMes) { return Dia(AMes, 1).Texto().substr(3); }

@@ -10,7 +10,7 @@ namespace demo {
 
 namespace {
 
-using host::Inteiro;
+using base::Inteiro;
 
 constexpr int PrimeiraConta = 5001;
 constexpr int PrimeiraSub = 3001;
@@ -132,7 +132,7 @@ int TPlano::IdDaSub(std::string_view ADescricao) const {
 }
 
 void TPlano::Gravar(suite::firebird::Transaction& ATransacao) const {
-    const auto LIdDe = [&](int ALugar) { return ALugar < 0 ? host::Nulo : Inteiro(Conta(ALugar).Id); };
+    const auto LIdDe = [&](int ALugar) { return ALugar < 0 ? base::Nulo : Inteiro(Conta(ALugar).Id); };
     TCarga LContas(ATransacao, "CO01_PLANO",
                    {"IDPLANO", "IDEMPRESA", "IDPLANOPAI", "CTASUPERIOR", "CONTA", "CLASSIFCONTAB", "NOME", "CTATITULO",
                     "TPCONTA"});
@@ -152,7 +152,7 @@ void TPlano::GravarFinalidades(suite::firebird::Transaction& ATransacao) const {
     TCarga LConfig(ATransacao, "CO01_PLANOCFG",
                    {"IDPLANOCFG", "IDPLANO", "IDEMPRESA", "ORIGEM", "ESPECIE", "INFORMACAO1"});
     int LProximo = 1;
-    const auto LIncluir = [&](const TConta& AConta, int AOrigem, int AEspecie, const host::TValor& AInformacao) {
+    const auto LIncluir = [&](const TConta& AConta, int AOrigem, int AEspecie, const base::TValor& AInformacao) {
         LConfig.Linha({Inteiro(LProximo++), Inteiro(AConta.Id), Inteiro(Holding().Id), Inteiro(AOrigem),
                        Inteiro(AEspecie), AInformacao});
     };
@@ -163,7 +163,7 @@ void TPlano::GravarFinalidades(suite::firebird::Transaction& ATransacao) const {
     for (const auto& LConta : FContas)
         if (LConta.Classif == "1.2.02" ||
             (LConta.Modelo->Natureza == TNatureza::Investimento && LConta.Classif.starts_with("1.2.03")))
-            LIncluir(LConta, 21, 50, host::Nulo);
+            LIncluir(LConta, 21, 50, base::Nulo);
     LConfig.Terminar();
 }
 

@@ -8,7 +8,7 @@ namespace demo {
 
 namespace {
 
-using host::Inteiro;
+using base::Inteiro;
 
 constexpr int MesesPorTrimestre = 3;
 constexpr int LivroNormal = 1;
@@ -65,7 +65,7 @@ void TProjecoes::Gravar(suite::firebird::Transaction& ATransacao, TAndamento& AA
 void TProjecoes::GravarCabecalho(TCarga& ACarga, const TCabecalho& ACabecalho, std::int64_t AId) const {
     const int LUltimo = ACabecalho.Mes + ACabecalho.Meses - 1;
     ACarga.Linha({Inteiro(AId), Inteiro(Empresa(ACabecalho.Empresa).Id),
-                  ACabecalho.Filial < 0 ? host::Nulo : Inteiro(Filial(ACabecalho.Filial).Id),
+                  ACabecalho.Filial < 0 ? base::Nulo : Inteiro(Filial(ACabecalho.Filial).Id),
                   Inteiro(ACabecalho.Cenario), Dia(ACabecalho.Mes, 1), UltimoDia(LUltimo), Dia(ACabecalho.Mes, 1, 1),
                   UltimoDia(LUltimo, 1), Inteiro(ACabecalho.Meses), Inteiro(ACabecalho.Empresa == 0 ? 2 : 1),
                   Inteiro(ACabecalho.Empresa == 0 ? 1 : 0), Inteiro(ACabecalho.TpCtb)});
@@ -106,9 +106,9 @@ void TProjecoes::GravarLinhas(TCarga& ACarga, const TCabecalho& ACabecalho, std:
         }
         const auto LProjecao = FOrcamento.Projecao(LChave, LAno);
         ACarga.Linha({Inteiro(FProximo++), Inteiro(AId), Inteiro(Empresa(LChave.Empresa).Id),
-                      LFilial < 0 ? host::Nulo : Inteiro(Filial(LFilial).Id), Inteiro(LPlano.Conta(LChave.Conta).Id),
-                      ChaveOuNulo(LChave.Sub), LChave.Centro < 0 ? host::Nulo : Inteiro(CentroCusto(LChave.Centro).Id),
-                      Inteiro(LProjecao.TpBase), Inteiro(LProjecao.TpAtualizacao), host::TDecimal{LProjecao.Indice, 6},
+                      LFilial < 0 ? base::Nulo : Inteiro(Filial(LFilial).Id), Inteiro(LPlano.Conta(LChave.Conta).Id),
+                      ChaveOuNulo(LChave.Sub), LChave.Centro < 0 ? base::Nulo : Inteiro(CentroCusto(LChave.Centro).Id),
+                      Inteiro(LProjecao.TpBase), Inteiro(LProjecao.TpAtualizacao), base::TDecimal{LProjecao.Indice, 6},
                       Inteiro(LProjecao.Tipo), Dinheiro(LLinha.Base), Dinheiro(LLinha.Orcado),
                       Dinheiro(TOrcamento::Percentual(LLinha.Base, LProjecao.Indice, LLinha.Orcado)),
                       Dinheiro(LLinha.Realizado), Inteiro(LProjecao.Tipo)});
@@ -126,11 +126,11 @@ void TProjecoes::GravarSinteticas(TCarga& ACarga, const TCabecalho& ACabecalho, 
                               : LContas[LConta].Classif.starts_with("4") ? 1
                                                                          : 2;
             ACarga.Linha({Inteiro(FProximo++), Inteiro(AId), Inteiro(Empresa(ACabecalho.Empresa).Id),
-                          LLugar == 0 ? host::Nulo : Inteiro(Filiais()[LLugar - 1].Id), Inteiro(LContas[LConta].Id),
-                          host::Nulo, host::Nulo, Inteiro(LBase), Inteiro(1), host::TDecimal{0, 6},
+                          LLugar == 0 ? base::Nulo : Inteiro(Filiais()[LLugar - 1].Id), Inteiro(LContas[LConta].Id),
+                          base::Nulo, base::Nulo, Inteiro(LBase), Inteiro(1), base::TDecimal{0, 6},
                           Inteiro(ProjecaoTotal), Dinheiro(LLinha.Base), Dinheiro(LLinha.Orcado),
                           Dinheiro(TOrcamento::Percentual(LLinha.Base, 0, LLinha.Orcado)), Dinheiro(LLinha.Realizado),
-                          host::Nulo});
+                          base::Nulo});
         }
 }
 

@@ -1,7 +1,7 @@
 // The demo database on its own: what it promises to whoever checks a figure by hand.
 
+#include "base/Falhas.h"
 #include "demo/Demo.h"
-#include "host/Falhas.h"
 #include "suite/firebird/Attachment.h"
 #include "suite/firebird/Cursor.h"
 #include "suite/firebird/Statement.h"
@@ -36,7 +36,7 @@ class Demo : public testing::Test {
     static std::string value(const std::string& sql, const std::string& file = "primeira.fdb") {
         fb::Attachment attachment(fb::Target((folder / file).string()), {});
         fb::Transaction transaction(attachment, fb::TransactionMode::ReadOnly);
-        return host::TextoDe(fb::queryValue(transaction, sql, "demo_test"));
+        return base::TextoDe(fb::queryValue(transaction, sql, "demo_test"));
     }
     static std::int64_t number(const std::string& sql) { return std::stoll(value(sql)); }
 
@@ -146,22 +146,22 @@ TEST_F(Demo, TheNextValueRowTakesAFreeKey) {
     fb::Attachment attachment(fb::Target((folder / "segunda.fdb").string()), {});
     fb::Transaction transaction(attachment, fb::TransactionMode::ReadWrite); // rolled back at the end
     const auto last = std::stoll(
-        host::TextoDe(fb::queryValue(transaction, "SELECT MAX(IDCTBORCADAVLR) FROM CO01_CTBORCADAVLR", "last key")));
+        base::TextoDe(fb::queryValue(transaction, "SELECT MAX(IDCTBORCADAVLR) FROM CO01_CTBORCADAVLR", "last key")));
     fb::execute(transaction, "INSERT INTO CO01_CTBORCADAVLR (IDCTBORCADAINF) VALUES (1)", "a row without key");
     EXPECT_EQ(
         std::to_string(last + 1),
-        host::TextoDe(fb::queryValue(transaction, "SELECT MAX(IDCTBORCADAVLR) FROM CO01_CTBORCADAVLR", "new key")));
+        base::TextoDe(fb::queryValue(transaction, "SELECT MAX(IDCTBORCADAVLR) FROM CO01_CTBORCADAVLR", "new key")));
 }
 
 TEST_F(Demo, AnExistingFileIsRefusedAndStaysAsItIs) {
     const auto target = folder / "ocupado.fdb";
     std::ofstream(target) << "de outro";
-    EXPECT_THROW(demo::Criar({target, 1, {}}), host::TFalha);
+    EXPECT_THROW(demo::Criar({target, 1, {}}), base::TFalha);
     std::string content;
     std::getline(std::ifstream(target), content);
     EXPECT_EQ(content, "de outro");
     EXPECT_EQ(1, FilesNamed("ocupado"));
-    EXPECT_THROW(demo::Criar({folder / "pasta-ausente" / "demo.fdb", 1, {}}), host::TFalha);
+    EXPECT_THROW(demo::Criar({folder / "pasta-ausente" / "demo.fdb", 1, {}}), base::TFalha);
 }
 
 TEST_F(Demo, AStopAnywhereLeavesNoFile) {
@@ -172,9 +172,9 @@ TEST_F(Demo, AStopAnywhereLeavesNoFile) {
         int step = 0;
         const auto stop = [&](const std::string&, std::size_t, std::size_t) {
             if (++step == last)
-                throw host::Abort();
+                throw base::Abort();
         };
-        EXPECT_THROW(demo::Criar({folder / "parada.fdb", 1, stop}), host::Abort);
+        EXPECT_THROW(demo::Criar({folder / "parada.fdb", 1, stop}), base::Abort);
         EXPECT_EQ(0, FilesNamed("parada"));
     }
 }
@@ -188,7 +188,7 @@ TEST_F(Demo, TwoRunsNeverWriteOneFile) {
             EXPECT_NO_THROW(demo::Criar({folder / "disputada.fdb", 1, {}}));
         }
     };
-    EXPECT_THROW(demo::Criar({folder / "disputada.fdb", 1, second}), host::TFalha);
+    EXPECT_THROW(demo::Criar({folder / "disputada.fdb", 1, second}), base::TFalha);
     EXPECT_EQ(2, FilesNamed("disputada"));
     EXPECT_EQ(10U, fs::file_size(folder / "disputada.fdb.parcial"));
     EXPECT_NO_THROW(fb::Attachment(fb::Target((folder / "disputada.fdb").string()), {}));

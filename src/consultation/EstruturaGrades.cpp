@@ -1,7 +1,7 @@
 #include "consultation/EstruturaGrades.h"
 
+#include "base/Falhas.h"
 #include "core/Un04618Const.h"
-#include "host/Falhas.h"
 
 #include <algorithm>
 
@@ -43,14 +43,14 @@ host::TColunaGrade& Achar(TColunasGrade& AColunas, const std::string& ACampo) {
     const auto LColuna =
         std::find_if(AColunas.begin(), AColunas.end(), [&](const host::TColunaGrade& C) { return C.Campo == ACampo; });
     if (LColuna == AColunas.end())
-        throw host::TFalha("A grade não tem a coluna " + ACampo + ".");
+        throw base::TFalha("A grade não tem a coluna " + ACampo + ".");
     return *LColuna;
 }
 
 void EstruturarColunaPeriodo(TColunasGrade& AColunas, const host::TDataSet& ADataSet, const std::string& ANumero) {
     const auto* LPeriodo = ADataSet.FindField("PER" + ANumero);
     if (!LPeriodo)
-        throw host::TFalha(ADataSet.Nome() + " não tem o campo PER" + ANumero + ".");
+        throw base::TFalha(ADataSet.Nome() + " não tem o campo PER" + ANumero + ".");
     auto& LValor = Achar(AColunas, "VAL" + ANumero);
     LValor.Titulo = LPeriodo->AsString();
     LValor.Visivel = !LValor.Titulo.empty();

@@ -1,7 +1,7 @@
 #include "consultation/RegrasCelulas.h"
 
+#include "base/Texto.h"
 #include "core/Un04618Dm.h"
-#include "host/Texto.h"
 
 #include <algorithm>
 #include <array>
@@ -26,7 +26,7 @@ bool OcultaValorZero(const TCelulaBalanco& ACelula) { return Uma(ACelula.Coluna,
 
 // Four decimals decide: what is less does not count.
 std::int64_t DecimosDeMilesimo(const std::string& ATexto) {
-    return host::TMoeda(host::TDecimal::De(ATexto).value_or(host::TDecimal())).Decimal().Unidades;
+    return base::TMoeda(base::TDecimal::De(ATexto).value_or(base::TDecimal())).Decimal().Unidades;
 }
 
 void ColorirFonteVariacao(const TCelulaBalanco& ACelula, host::TAparencia& AAparencia) {
@@ -59,11 +59,11 @@ bool OcultarIdentificacaoRepetida(const TCelulaPeriodos& C) {
         LMostra = C.LinhaVlrBase ? LinhaBase : LinhaOrcado;
     if (C.TipoLinha != LMostra)
         return true;
-    return !Uma(C.Coluna, {"NOMECONTA", "FILIAL"}) && host::Trim(C.Texto) == "0";
+    return !Uma(C.Coluna, {"NOMECONTA", "FILIAL"}) && base::Trim(C.Texto) == "0";
 }
 
 std::int32_t Numero(const host::TCelula& ACelula, std::string_view ACampo) {
-    return host::NumeroOuZero(host::TextoDe(ACelula.Valor(ACampo)));
+    return base::NumeroOuZero(base::TextoDe(ACelula.Valor(ACampo)));
 }
 
 } // namespace
@@ -73,7 +73,7 @@ host::TAparencia AparenciaDaCelula(const TCelulaBalanco& ACelula) {
     LAparencia.Negrito = ACelula.CtaTitulo == ContaTitulo;
     if (!ACelula.Selecionada)
         ColorirFonteVariacao(ACelula, LAparencia);
-    LAparencia.Vazio = OcultaValorZero(ACelula) && host::Trim(ACelula.Texto) == "0";
+    LAparencia.Vazio = OcultaValorZero(ACelula) && base::Trim(ACelula.Texto) == "0";
     return LAparencia;
 }
 
@@ -92,8 +92,8 @@ host::TAparencia AparenciaDaCelula(const TCelulaPeriodos& ACelula) {
 TCelulaBalanco LerCelulaBalanco(const host::TCelula& ACelula) {
     TCelulaBalanco LCelula;
     LCelula.CtaTitulo = Numero(ACelula, "CTATITULO");
-    LCelula.DeltaVariacao = host::TextoDe(ACelula.Valor("DELTAVARIACAO"));
-    LCelula.RecDesp = host::TextoDe(ACelula.Valor("RECDESP"));
+    LCelula.DeltaVariacao = base::TextoDe(ACelula.Valor("DELTAVARIACAO"));
+    LCelula.RecDesp = base::TextoDe(ACelula.Valor("RECDESP"));
     LCelula.Coluna = ACelula.Coluna->Campo;
     LCelula.Selecionada = ACelula.Selecionada;
     if (OcultaValorZero(LCelula))
@@ -109,7 +109,7 @@ TCelulaPeriodos LerCelulaPeriodos(const host::TCelula& ACelula, const TDM04618& 
     LCelula.DetContasTotaliz = ADm.FImprimirDetContasTotaliz;
     LCelula.TipoLinha = Numero(ACelula, "TIPOLINHA");
     LCelula.CtaTitulo = Numero(ACelula, "CTATITULO");
-    LCelula.IDPlano = host::TextoDe(ACelula.Valor("IDPLANO"));
+    LCelula.IDPlano = base::TextoDe(ACelula.Valor("IDPLANO"));
     LCelula.Coluna = ACelula.Coluna->Campo;
     LCelula.Selecionada = ACelula.Selecionada;
     if (EhIdentificacao(LCelula.Coluna))

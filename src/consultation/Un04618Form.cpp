@@ -1,7 +1,7 @@
 #include "consultation/Un04618Form.h"
 
+#include "base/Falhas.h"
 #include "core/Un04618Const.h"
-#include "host/Falhas.h"
 #include "host/Servicos.h"
 
 namespace pct04618 {
@@ -52,7 +52,7 @@ void TForm04618::ActSelecionarExecute(host::TControle* ASender) {
     }
     try {
         ExecutarSelecao(ASender);
-    } catch (const host::TFalha&) {
+    } catch (const base::TFalha&) {
         MostrarResultado(); // a failed query has closed the results: title and grid must not go on naming them
         throw;
     }

@@ -1,7 +1,7 @@
+#include "base/Texto.h"
 #include "consultation/EstruturaGrades.h"
 #include "consultation/Un04618Form.h"
 #include "host/Servicos.h"
-#include "host/Texto.h"
 
 #include <map>
 
@@ -102,7 +102,7 @@ void TForm04618::AtualizarTituloRelatorio() {
         PnlTitulo.SetCaption(Convite);
     } else if (!LGrade->DataSet()->IsEmpty()) {
         const auto& LDm = GetDm04618();
-        PnlTitulo.SetCaption(host::Format("Visualizando projeção orçamentária de %s a %s",
+        PnlTitulo.SetCaption(base::Format("Visualizando projeção orçamentária de %s a %s",
                                           {LDm.FDataInicio.Texto(), LDm.FDataFim.Texto()}));
     }
 }

@@ -25,8 +25,8 @@ class TDM04618 : public host::TDmZTTandorPadrao {
     TInformacoesCtbOrcadaInf FInformacoesCtbOrcadaInf;
     std::string FDescricaoRel; // title of the configurable statement, empty for none
     bool FDetalharLinhaVlrBase = false;
-    host::TDataHora FDataFim;
-    host::TDataHora FDataInicio;
+    base::TDataHora FDataFim;
+    base::TDataHora FDataInicio;
     bool FDetalharCCustoComBaseOrc = false;
     bool FDetalharSomenteCCustoTitulo = false;
     bool FCalcularPercentualDiferenca = false; // 100 is subtracted from percentages

@@ -4,11 +4,11 @@ namespace pct04618 {
 
 namespace {
 
-host::TValor Numero(std::int64_t AValor) { return host::Inteiro(AValor); }
-host::TValor Texto(const std::string& AValor) { return AValor; }
-host::TValor Data(host::TDataHora AValor) { return AValor.Vazia() ? host::Nulo : host::TValor(AValor); }
+base::TValor Numero(std::int64_t AValor) { return base::Inteiro(AValor); }
+base::TValor Texto(const std::string& AValor) { return AValor; }
+base::TValor Data(base::TDataHora AValor) { return AValor.Vazia() ? base::Nulo : base::TValor(AValor); }
 
-host::TValor NomeDe(TDetalhePercentual AValor) {
+base::TValor NomeDe(TDetalhePercentual AValor) {
     switch (AValor) {
     case TDetalhePercentual::dpRealizadoXOrcado:
         return "dpRealizadoXOrcado";
@@ -17,7 +17,7 @@ host::TValor NomeDe(TDetalhePercentual AValor) {
     case TDetalhePercentual::dpVertical:
         return "dpVertical";
     }
-    return host::Nulo;
+    return base::Nulo;
 }
 
 std::vector<host::TCampoDescrito> Descrever(const TInformacoesCtbOrcadaInf& AInformacoes) {
@@ -31,7 +31,7 @@ std::vector<host::TCampoDescrito> Descrever(const TInformacoesCtbOrcadaInf& AInf
 } // namespace
 
 std::vector<host::TCampoDescrito> TDM04618::DescreverCampos() const {
-    host::TConteudoDescrito LFiliais = host::Nulo;
+    host::TConteudoDescrito LFiliais = base::Nulo;
     if (FListaIDsFilial)
         LFiliais = *FListaIDsFilial;
     return {{"FDetalharSelecao", Numero(FDetalharSelecao)},

@@ -1,6 +1,6 @@
+#include "base/Falhas.h"
 #include "core/Un04618Const.h"
 #include "core/Un04618Dm.h"
-#include "host/Falhas.h"
 #include "host/Servicos.h"
 #include "host/Utilidades.h"
 
@@ -34,7 +34,7 @@ void TDM04618::CdsCtbOrcadaInfNewRecord() {
 
 void TDM04618::CdsCtbOrcadaVlrNewRecord() {
     CdsCtbOrcadaVlr.FieldByName("IDCTBORCADAVLR")
-        .Atribuir(host::Inteiro(host::ZTConnection().BuscarProximoID("CO01_CTBORCADAVLR")));
+        .Atribuir(base::Inteiro(host::ZTConnection().BuscarProximoID("CO01_CTBORCADAVLR")));
 }
 
 void TDM04618::DspCtbOrcadaVlrGetTableName(std::string& ATableName) {
@@ -57,7 +57,7 @@ void TDM04618::PararSeCancelado(host::TZTBarraProgressoDlg& AZTBarraProgressoDlg
     host::GZTUtilsDialogs.Informacao("Processo Cancelado.");
     AZTBarraProgressoDlg.FecharBarraProgresso();
     host::Servicos().Interacao->ProcessarMensagens();
-    throw host::Abort();
+    throw base::Abort();
 }
 
 } // namespace pct04618

@@ -1,22 +1,22 @@
+#include "base/Falhas.h"
+#include "base/Texto.h"
 #include "core/SqlProjecoes.h"
 #include "core/Un04618Const.h"
 #include "core/Un04618Dm.h"
 #include "host/DbManager.h"
-#include "host/Falhas.h"
 #include "host/Servicos.h"
-#include "host/Texto.h"
 #include "host/Utilidades.h"
 
 namespace pct04618 {
 
 namespace {
 
-using host::Format;
+using base::Format;
 using host::GUtilGeral;
 
 constexpr int MaximoAnos = 12;
 
-bool MesmoMes(host::TDataHora A, host::TDataHora B) { return A.Ano() == B.Ano() && A.Mes() == B.Mes(); }
+bool MesmoMes(base::TDataHora A, base::TDataHora B) { return A.Ano() == B.Ano() && A.Mes() == B.Mes(); }
 
 TInformacoesCtbOrcadaInf LerProjecoes(host::TDataSet& ADataSet) {
     TInformacoesCtbOrcadaInf LInformacoes;
@@ -24,12 +24,12 @@ TInformacoesCtbOrcadaInf LerProjecoes(host::TDataSet& ADataSet) {
         if (!LInformacoes.LListaIDs.empty())
             LInformacoes.LListaIDs += ", ";
         LInformacoes.LListaIDs += ADataSet.FieldByName("IDCTBORCADAINF").AsString();
-        LInformacoes.TpCCusto = host::NumeroOuZero(ADataSet.FieldByName("TPCCUSTO").AsString());
+        LInformacoes.TpCCusto = base::NumeroOuZero(ADataSet.FieldByName("TPCCUSTO").AsString());
     }
     LInformacoes.QtdePeriodos = static_cast<std::int32_t>(ADataSet.RecordCount());
     if (LInformacoes.QtdePeriodos == 1) {
-        LInformacoes.DataIBalancoRef = ADataSet.FieldByName("DATAIBALANCOREF").AsDateTime().value_or(host::TDataHora());
-        LInformacoes.DataFBalancoRef = ADataSet.FieldByName("DATAFBALANCOREF").AsDateTime().value_or(host::TDataHora());
+        LInformacoes.DataIBalancoRef = ADataSet.FieldByName("DATAIBALANCOREF").AsDateTime().value_or(base::TDataHora());
+        LInformacoes.DataFBalancoRef = ADataSet.FieldByName("DATAFBALANCOREF").AsDateTime().value_or(base::TDataHora());
     }
     return LInformacoes;
 }
@@ -73,7 +73,7 @@ TInformacoesCtbOrcadaInf TDM04618::BuscarListaInformacoesCtbOrcadaInf() {
             "colunas, somente é permitida a visualização do detalhamento em 12 períodos. Por favor verifique os "
             "períodos informados.",
             BotaoCiente, "Confirmação:");
-        throw host::Abort();
+        throw base::Abort();
     }
     FInformacoesCtbOrcadaInf = LerProjecoes(*LConsulta);
     return FInformacoesCtbOrcadaInf;
@@ -107,7 +107,7 @@ bool TDM04618::CalculoDaProjecaoHeDetalhadoPorFilial() {
     }
     try {
         LConexao.FinalizarTransacao(*LTransacao);
-    } catch (const host::TFalha&) {
+    } catch (const base::TFalha&) {
         LConexao.CancelarTransacao(*LTransacao); // it has only read: the answer stands
     }
     return LDetalhado;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/DataHora.h"
+#include "base/DataHora.h"
 
 #include <cstdint>
 #include <string>
@@ -23,8 +23,8 @@ using TDetalharSelecao = std::uint8_t;
 // The projections that match a selection.
 struct TInformacoesCtbOrcadaInf {
     std::string LListaIDs;           // keys of the headers, separated by ", ", ready for an IN; empty for none
-    host::TDataHora DataIBalancoRef; // reference balance of the projection, blank unless exactly one matched
-    host::TDataHora DataFBalancoRef;
+    base::TDataHora DataIBalancoRef; // reference balance of the projection, blank unless exactly one matched
+    base::TDataHora DataFBalancoRef;
     std::int32_t QtdePeriodos = 0; // number of matching headers
     std::int32_t TpCCusto = 0;     // detail by cost centre of the last matching header, 0 where it is null
 };

@@ -1,5 +1,5 @@
+#include "base/Falhas.h"
 #include "host/DataSet.h"
-#include "host/Falhas.h"
 
 #include <algorithm>
 #include <numeric>
@@ -9,7 +9,7 @@ namespace host {
 
 TSQLConnection& TZTSQLDataSet::SQLConnection() const {
     if (!FConexao)
-        throw TFalha("O conjunto de dados " + FNome + " não está ligado a uma conexão.");
+        throw base::TFalha("O conjunto de dados " + FNome + " não está ligado a uma conexão.");
     return *FConexao;
 }
 
@@ -25,7 +25,7 @@ std::string TZTClientDataSet::TextoEfetivo() const {
 std::unique_ptr<TCursor> TZTClientDataSet::AbrirCursor() {
     const auto LTexto = TextoEfetivo();
     if (LTexto.empty())
-        throw TFalha("O conjunto de dados " + Nome() + " não tem uma consulta.");
+        throw base::TFalha("O conjunto de dados " + Nome() + " não tem uma consulta.");
     return Conexao().AbrirCursor({Nome(), LTexto});
 }
 
@@ -48,8 +48,8 @@ void TZTClientDataSet::Reordenar() {
         const auto LColuna = std::find_if(FColunas.begin(), FColunas.end(),
                                           [&](const TColuna& C) { return C.Descricao().Nome == LNome; });
         if (LColuna == FColunas.end())
-            throw TFalha("O índice de " + Nome() + " pede o campo " + std::string(LNome) +
-                         ", que a consulta não traz.");
+            throw base::TFalha("O índice de " + Nome() + " pede o campo " + std::string(LNome) +
+                               ", que a consulta não traz.");
         FCamposIndice.push_back(static_cast<std::size_t>(LColuna - FColunas.begin()));
         LInicio = LFim + 1;
     }
@@ -66,7 +66,7 @@ bool TZTClientDataSet::Antes(std::size_t ALinha, std::size_t AOutra) const {
     return false;
 }
 
-bool TZTClientDataSet::FindKey(std::span<const TValor> AValores) {
+bool TZTClientDataSet::FindKey(std::span<const base::TValor> AValores) {
     if (AValores.empty() || AValores.size() > FCamposIndice.size())
         throw std::logic_error(Nome() + ": key and index do not fit");
     const auto LComparar = [&](std::size_t ALinha) {
@@ -83,8 +83,8 @@ bool TZTClientDataSet::FindKey(std::span<const TValor> AValores) {
     return true;
 }
 
-std::vector<TValor> TZTClientDataSet::ValoresDaLinha(std::size_t ALinha) const {
-    std::vector<TValor> LValores;
+std::vector<base::TValor> TZTClientDataSet::ValoresDaLinha(std::size_t ALinha) const {
+    std::vector<base::TValor> LValores;
     for (const auto& LColuna : FColunas)
         LValores.push_back(LColuna.Valor(ALinha));
     return LValores;
@@ -109,7 +109,7 @@ void TZTClientDataSet::Insert() {
     }
 }
 
-void TZTClientDataSet::AtribuirEmEdicao(std::size_t ACampo, const TValor& AValor) {
+void TZTClientDataSet::AtribuirEmEdicao(std::size_t ACampo, const base::TValor& AValor) {
     if (!FEdicao)
         throw std::logic_error(Nome() + " is not in edit or insert");
     (*FEdicao)[ACampo] = AValor;

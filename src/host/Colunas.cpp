@@ -1,6 +1,6 @@
 #include "host/Colunas.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 
 #include <bit>
 #include <functional>
@@ -15,9 +15,9 @@ int Ordem(const T& A, const T& B) {
     return A < B ? -1 : (B < A ? 1 : 0);
 }
 
-int Ordem(const TValor& A, const TValor& B) {
-    if (EhNulo(A) || EhNulo(B))
-        return static_cast<int>(EhNulo(B)) - static_cast<int>(EhNulo(A));
+int Ordem(const base::TValor& A, const base::TValor& B) {
+    if (base::EhNulo(A) || base::EhNulo(B))
+        return static_cast<int>(base::EhNulo(B)) - static_cast<int>(base::EhNulo(A));
     return std::visit(
         [](const auto& X, const auto& Y) {
             if constexpr (std::is_same_v<decltype(X), decltype(Y)>)
@@ -38,17 +38,17 @@ std::size_t TColuna::Bytes() const {
            FInicios.capacity() * sizeof(std::uint64_t) + FTabela.capacity() * sizeof(std::uint32_t);
 }
 
-TValor TColuna::Valor(std::size_t ALinha) const {
+base::TValor TColuna::Valor(std::size_t ALinha) const {
     if (Nulo(ALinha))
         return {};
     switch (FDescricao.Tipo) {
     case TTipoColuna::Inteiro:
-        return TDecimal{FNumeros[ALinha], FDescricao.Escala};
+        return base::TDecimal{FNumeros[ALinha], FDescricao.Escala};
     case TTipoColuna::Real:
         return std::bit_cast<double>(FNumeros[ALinha]);
     case TTipoColuna::Data:
     case TTipoColuna::DataHora:
-        return TDataHora::DeDecimos(FNumeros[ALinha]);
+        return base::TDataHora::DeDecimos(FNumeros[ALinha]);
     case TTipoColuna::Texto:
         break;
     }
@@ -68,7 +68,7 @@ int TColuna::Comparar(std::size_t ALinha, std::size_t AOutra) const {
     }
 }
 
-int TColuna::Comparar(std::size_t ALinha, const TValor& AValor) const {
+int TColuna::Comparar(std::size_t ALinha, const base::TValor& AValor) const {
     return Ordem(Valor(ALinha), Converter(AValor));
 }
 
@@ -109,22 +109,22 @@ void TColuna::AcrescentarTexto(std::string_view AUtf8) {
         FCodigos.push_back(CodigoDoTexto(AUtf8));
 }
 
-void TColuna::Acrescentar(const TValor& AValor) {
+void TColuna::Acrescentar(const base::TValor& AValor) {
     AcrescentarNulo();
-    if (!EhNulo(AValor))
+    if (!base::EhNulo(AValor))
         Atribuir(Tamanho() - 1, AValor);
 }
 
-void TColuna::Atribuir(std::size_t ALinha, const TValor& AValor) {
-    const TValor LValor = Converter(AValor);
+void TColuna::Atribuir(std::size_t ALinha, const base::TValor& AValor) {
+    const base::TValor LValor = Converter(AValor);
     if (EhTexto()) {
-        FCodigos[ALinha] = EhNulo(LValor) ? 0 : CodigoDoTexto(std::get<std::string>(LValor));
+        FCodigos[ALinha] = base::EhNulo(LValor) ? 0 : CodigoDoTexto(std::get<std::string>(LValor));
         return;
     }
-    MarcarNulo(ALinha, EhNulo(LValor));
-    if (const auto* LDecimal = std::get_if<TDecimal>(&LValor))
+    MarcarNulo(ALinha, base::EhNulo(LValor));
+    if (const auto* LDecimal = std::get_if<base::TDecimal>(&LValor))
         FNumeros[ALinha] = LDecimal->Unidades;
-    else if (const auto* LData = std::get_if<TDataHora>(&LValor))
+    else if (const auto* LData = std::get_if<base::TDataHora>(&LValor))
         FNumeros[ALinha] = LData->Decimos();
     else if (const auto* LReal = std::get_if<double>(&LValor))
         FNumeros[ALinha] = std::bit_cast<std::int64_t>(*LReal);
@@ -132,37 +132,37 @@ void TColuna::Atribuir(std::size_t ALinha, const TValor& AValor) {
         FNumeros[ALinha] = 0;
 }
 
-TValor TColuna::Converter(const TValor& AValor) const {
-    if (EhNulo(AValor))
+base::TValor TColuna::Converter(const base::TValor& AValor) const {
+    if (base::EhNulo(AValor))
         return AValor;
     const auto* LTexto = std::get_if<std::string>(&AValor);
-    const auto* LDecimal = std::get_if<TDecimal>(&AValor);
+    const auto* LDecimal = std::get_if<base::TDecimal>(&AValor);
     try {
         switch (FDescricao.Tipo) {
         case TTipoColuna::Texto:
-            return LTexto ? AValor : TValor(TextoDe(AValor));
+            return LTexto ? AValor : base::TValor(base::TextoDe(AValor));
         case TTipoColuna::Inteiro:
             if (LDecimal)
                 return LDecimal->ComEscala(FDescricao.Escala);
-            if (const auto LLido = LTexto ? TDecimal::De(*LTexto) : std::nullopt)
+            if (const auto LLido = LTexto ? base::TDecimal::De(*LTexto) : std::nullopt)
                 return LLido->ComEscala(FDescricao.Escala);
             break;
         case TTipoColuna::Real:
             if (std::holds_alternative<double>(AValor))
                 return AValor;
             if (LTexto || LDecimal)
-                return std::stod(TextoDe(AValor));
+                return std::stod(base::TextoDe(AValor));
             break;
         case TTipoColuna::Data:
         case TTipoColuna::DataHora:
-            if (std::holds_alternative<TDataHora>(AValor))
+            if (std::holds_alternative<base::TDataHora>(AValor))
                 return AValor;
             break;
         }
     } catch (const std::logic_error&) {    // stod
     } catch (const std::overflow_error&) { // ComEscala
     }
-    throw TFalha("O valor \"" + TextoDe(AValor) + "\" não serve para o campo " + FDescricao.Nome + ".");
+    throw base::TFalha("O valor \"" + base::TextoDe(AValor) + "\" não serve para o campo " + FDescricao.Nome + ".");
 }
 
 std::uint32_t TColuna::CodigoDoTexto(std::string_view AUtf8) {

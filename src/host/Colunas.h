@@ -1,6 +1,7 @@
 #pragma once
 
-#include "host/Valor.h"
+#include "base/Valor.h"
+#include "host/Exportar.h"
 
 #include <cstddef>
 #include <string>
@@ -40,21 +41,21 @@ class HOST_API TColuna {
     // Equal texts have equal codes; 0 is NULL. For caches beside the column (sort keys, widths).
     std::uint32_t Codigo(std::size_t ALinha) const { return FCodigos[ALinha]; }
 
-    TValor Valor(std::size_t ALinha) const;
+    base::TValor Valor(std::size_t ALinha) const;
     // Nulls first, then by value; texts by their bytes.
     int Comparar(std::size_t ALinha, std::size_t AOutra) const;
-    int Comparar(std::size_t ALinha, const TValor& AValor) const;
+    int Comparar(std::size_t ALinha, const base::TValor& AValor) const;
 
     void AcrescentarNulo();
     void AcrescentarUnidades(std::int64_t AUnidades);
     void AcrescentarReal(double AValor);
     void AcrescentarTexto(std::string_view AUtf8);
-    void Acrescentar(const TValor& AValor);
-    void Atribuir(std::size_t ALinha, const TValor& AValor);
+    void Acrescentar(const base::TValor& AValor);
+    void Atribuir(std::size_t ALinha, const base::TValor& AValor);
 
     // The value in the column's own type and scale: text that reads as a number or a date is converted, a number is
     // brought to the scale. Throws TFalha, which names the column, when that is not possible.
-    TValor Converter(const TValor& AValor) const;
+    base::TValor Converter(const base::TValor& AValor) const;
 
   private:
     bool EhTexto() const { return FDescricao.Tipo == TTipoColuna::Texto; }

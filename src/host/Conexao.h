@@ -1,7 +1,8 @@
 #pragma once
 
+#include "base/Falhas.h"
 #include "host/Colunas.h"
-#include "host/Falhas.h"
+#include "host/Exportar.h"
 
 #include <memory>
 #include <optional>
@@ -55,8 +56,8 @@ class HOST_API TSQLConnection {
 
 struct HOST_API TResultStatus {
     bool Sucesso = true;
-    std::string Mensagem;                  // why not, for the user
-    std::optional<TFalhaBanco> Causa = {}; // where it was the database that failed
+    std::string Mensagem;                        // why not, for the user
+    std::optional<base::TFalhaBanco> Causa = {}; // where it was the database that failed
 };
 
 // The suite's database connection.

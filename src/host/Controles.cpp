@@ -31,12 +31,12 @@ void TZTComboBox::SetValorSelecionado(const std::string& AValor) {
     SetItemIndex(LAchado == FValores.end() ? -1 : static_cast<int>(LAchado - FValores.begin()));
 }
 
-void TZTDateEdit::SetDate(TDataHora AData) { SetTexto(AData.Vazia() ? Mascara : AData.SemHora().Texto()); }
+void TZTDateEdit::SetDate(base::TDataHora AData) { SetTexto(AData.Vazia() ? Mascara : AData.SemHora().Texto()); }
 
 void TZTDateEdit::SetTexto(std::string ATexto) {
     if (ATexto.empty())
         ATexto = Mascara;
-    FDate = TDataHora::DeTexto(ATexto).value_or(TDataHora());
+    FDate = base::TDataHora::DeTexto(ATexto).value_or(base::TDataHora());
     Mudar(FTexto, std::move(ATexto));
 }
 

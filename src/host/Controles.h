@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/DataHora.h"
+#include "base/DataHora.h"
 #include "host/Exportar.h"
 
 #include <cstdint>
@@ -134,14 +134,14 @@ class HOST_API TZTDateEdit : public TControle {
     static constexpr const char* Mascara = "  /  /    ";
 
     using TControle::TControle;
-    TDataHora Date() const { return FDate; }
+    base::TDataHora Date() const { return FDate; }
     const std::string& Texto() const { return FTexto; }
     bool EmBranco() const { return FTexto == Mascara; }
-    void SetDate(TDataHora AData);
+    void SetDate(base::TDataHora AData);
     void SetTexto(std::string ATexto); // empty: the blank mask
 
   private:
-    TDataHora FDate;
+    base::TDataHora FDate;
     std::string FTexto = Mascara;
 };
 

@@ -1,6 +1,6 @@
 #include "host/DataSet.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 
 #include <algorithm>
 #include <numeric>
@@ -18,55 +18,56 @@ TField::TField(TDataSet& ADataSet, std::size_t AIndice) : FDataSet(&ADataSet), F
 
 const TDescricaoColuna& TField::Descricao() const { return FDataSet->FColunas[FIndice].Descricao(); }
 
-TValor TField::Valor() const {
+base::TValor TField::Valor() const {
     if (const auto* LEdicao = FDataSet->LinhaEmEdicao())
         return (*LEdicao)[FIndice];
     return FDataSet->FColunas[FIndice].Valor(FDataSet->LinhaAtual());
 }
 
-bool TField::IsNull() const { return EhNulo(Valor()); }
+bool TField::IsNull() const { return base::EhNulo(Valor()); }
 
 std::optional<std::int64_t> TField::AsInt64() const {
-    const TValor LValor = Valor();
-    if (EhNulo(LValor))
+    const base::TValor LValor = Valor();
+    if (base::EhNulo(LValor))
         return std::nullopt;
-    auto LDecimal =
-        std::get_if<TDecimal>(&LValor) ? std::optional(std::get<TDecimal>(LValor)) : TDecimal::De(TextoDe(LValor));
+    auto LDecimal = std::get_if<base::TDecimal>(&LValor) ? std::optional(std::get<base::TDecimal>(LValor))
+                                                         : base::TDecimal::De(base::TextoDe(LValor));
     if (!LDecimal || !(LDecimal->ComEscala(0) == *LDecimal))
-        throw TFalha("O valor \"" + TextoDe(LValor) + "\" do campo " + Nome() + " não é um número inteiro.");
+        throw base::TFalha("O valor \"" + base::TextoDe(LValor) + "\" do campo " + Nome() +
+                           " não é um número inteiro.");
     return LDecimal->ComEscala(0).Unidades;
 }
 
-std::optional<TDecimal> TField::AsDecimal() const {
-    const TValor LValor = Valor();
-    if (EhNulo(LValor))
+std::optional<base::TDecimal> TField::AsDecimal() const {
+    const base::TValor LValor = Valor();
+    if (base::EhNulo(LValor))
         return std::nullopt;
-    if (const auto* LDecimal = std::get_if<TDecimal>(&LValor))
+    if (const auto* LDecimal = std::get_if<base::TDecimal>(&LValor))
         return *LDecimal;
-    throw TFalha("O campo " + Nome() + " não tem um número exato.");
+    throw base::TFalha("O campo " + Nome() + " não tem um número exato.");
 }
 
-TMoeda TField::AsMoedaOuZero() const {
+base::TMoeda TField::AsMoedaOuZero() const {
     const auto LDecimal = AsDecimal();
-    return LDecimal ? TMoeda(*LDecimal) : TMoeda();
+    return LDecimal ? base::TMoeda(*LDecimal) : base::TMoeda();
 }
 
-std::optional<TDataHora> TField::AsDateTime() const {
-    const TValor LValor = Valor();
-    if (EhNulo(LValor))
+std::optional<base::TDataHora> TField::AsDateTime() const {
+    const base::TValor LValor = Valor();
+    if (base::EhNulo(LValor))
         return std::nullopt;
-    if (const auto* LData = std::get_if<TDataHora>(&LValor))
+    if (const auto* LData = std::get_if<base::TDataHora>(&LValor))
         return *LData;
-    throw TFalha("O campo " + Nome() + " não tem uma data.");
+    throw base::TFalha("O campo " + Nome() + " não tem uma data.");
 }
 
-std::string TField::AsString() const { return TextoDe(Valor()); }
+std::string TField::AsString() const { return base::TextoDe(Valor()); }
 
-void TField::Atribuir(const TValor& AValor) {
+void TField::Atribuir(const base::TValor& AValor) {
     FDataSet->AtribuirEmEdicao(FIndice, FDataSet->FColunas[FIndice].Converter(AValor));
 }
 
-void TDataSet::AtribuirEmEdicao(std::size_t, const TValor&) {
+void TDataSet::AtribuirEmEdicao(std::size_t, const base::TValor&) {
     throw std::logic_error(FNome + " is not in edit or insert");
 }
 
@@ -155,14 +156,14 @@ void TDataSet::Prior() {
 
 std::size_t TDataSet::LinhaAtual() const {
     if (FOrdem.empty())
-        throw TFalha("O conjunto de dados " + FNome + " não tem registro atual.");
+        throw base::TFalha("O conjunto de dados " + FNome + " não tem registro atual.");
     return FOrdem[FPosicao];
 }
 
 TField& TDataSet::FieldByName(std::string_view ANome) {
     const auto LAchado = FPorNome.find(ANome);
     if (LAchado == FPorNome.end())
-        throw TFalha("O conjunto de dados " + FNome + " não tem o campo " + std::string(ANome) + ".");
+        throw base::TFalha("O conjunto de dados " + FNome + " não tem o campo " + std::string(ANome) + ".");
     return FCampos[LAchado->second];
 }
 
@@ -174,7 +175,7 @@ const TField* TDataSet::FindField(std::string_view ANome) const {
 std::int64_t TDataSet::GetInt64FieldValue(std::string_view ANome) {
     const auto LValor = FieldByName(ANome).AsInt64();
     if (!LValor)
-        throw TFalha("O campo " + std::string(ANome) + " de " + FNome + " está vazio.");
+        throw base::TFalha("O campo " + std::string(ANome) + " de " + FNome + " está vazio.");
     return *LValor;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/Conexao.h"
+#include "host/Exportar.h"
 
 #include <deque>
 #include <functional>
@@ -23,19 +24,19 @@ class HOST_API TField {
     const std::string& Nome() const { return Descricao().Nome; }
     std::size_t Indice() const { return FIndice; }
 
-    TValor Valor() const;
+    base::TValor Valor() const;
     bool IsNull() const;
     std::optional<std::int64_t> AsInt64() const; // throws TFalha where the value has a fraction or is no number
     std::int64_t AsInt64OuZero() const { return AsInt64().value_or(0); }
-    std::optional<TDecimal> AsDecimal() const; // throws TFalha where the value is no exact number
-    TMoeda AsMoedaOuZero() const;
-    std::optional<TDataHora> AsDateTime() const;
+    std::optional<base::TDecimal> AsDecimal() const; // throws TFalha where the value is no exact number
+    base::TMoeda AsMoedaOuZero() const;
+    std::optional<base::TDataHora> AsDateTime() const;
     // The value as locale-free text, NULL as an empty one.
     std::string AsString() const;
 
     // The dataset must be in edit or insert. The value is converted to the field's type, or TFalha names the field.
-    void Atribuir(const TValor& AValor);
-    void Clear() { Atribuir(Nulo); }
+    void Atribuir(const base::TValor& AValor);
+    void Clear() { Atribuir(base::Nulo); }
 
     // Number formats for display and edit, empty for the field's plain form (FormatoNumerico.h).
     std::string FormatoExibicao;
@@ -95,8 +96,8 @@ class HOST_API TDataSet {
     virtual std::unique_ptr<TCursor> AbrirCursor() = 0;
     virtual void AoCarregar() {}
     virtual void AoFechar() {}
-    virtual const std::vector<TValor>* LinhaEmEdicao() const { return nullptr; }
-    virtual void AtribuirEmEdicao(std::size_t ACampo, const TValor& AValor);
+    virtual const std::vector<base::TValor>* LinhaEmEdicao() const { return nullptr; }
+    virtual void AtribuirEmEdicao(std::size_t ACampo, const base::TValor& AValor);
     void MudarEstado(TEstadoDataSet AEstado);
     std::size_t LinhaAtual() const; // throws TFalha without a current row
     void Posicionar(std::size_t APosicao);
@@ -167,7 +168,7 @@ class HOST_API TZTDataSetProvider {
 // What is to be stored of one row: a new row, or the values it had before its first edit.
 struct HOST_API TAlteracao {
     bool Inserida = false;
-    std::vector<TValor> Antes;
+    std::vector<base::TValor> Antes;
 };
 
 // A client dataset: rows in memory, editable, with changes pending until the connection applies them.
@@ -187,7 +188,7 @@ class HOST_API TZTClientDataSet : public TDataSet {
     // "CAMPO;CAMPO": order of navigation and fields of FindKey, NULL first. Empty for the order of the result.
     void SetIndexFieldNames(std::string ACampos);
     // Stands on the first row whose leading index fields have these values. False, without moving, when there is none.
-    bool FindKey(std::span<const TValor> AValores);
+    bool FindKey(std::span<const base::TValor> AValores);
 
     void Edit();
     void Insert(); // a new row of nulls; OnNewRecord runs on it before Insert returns
@@ -202,20 +203,20 @@ class HOST_API TZTClientDataSet : public TDataSet {
     std::unique_ptr<TCursor> AbrirCursor() override;
     void AoCarregar() override { Reordenar(); }
     void AoFechar() override;
-    const std::vector<TValor>* LinhaEmEdicao() const override { return FEdicao ? &*FEdicao : nullptr; }
-    void AtribuirEmEdicao(std::size_t ACampo, const TValor& AValor) override;
+    const std::vector<base::TValor>* LinhaEmEdicao() const override { return FEdicao ? &*FEdicao : nullptr; }
+    void AtribuirEmEdicao(std::size_t ACampo, const base::TValor& AValor) override;
 
   private:
     TSQLConnection& Conexao() const;
     void Reordenar();
     bool Antes(std::size_t ALinha, std::size_t AOutra) const;
-    std::vector<TValor> ValoresDaLinha(std::size_t ALinha) const;
+    std::vector<base::TValor> ValoresDaLinha(std::size_t ALinha) const;
 
     TZTDataSetProvider* FProvider = nullptr;
     TSQLConnection* FConexao = nullptr;
     std::string FIndice;
     std::vector<std::size_t> FCamposIndice;
-    std::optional<std::vector<TValor>> FEdicao;
+    std::optional<std::vector<base::TValor>> FEdicao;
     std::map<std::size_t, TAlteracao> FAlteracoes;
 };
 

@@ -1,6 +1,6 @@
 #include "host/DbManager.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 #include "host/Servicos.h"
 
 namespace host {
@@ -19,11 +19,11 @@ std::unique_ptr<TDataSet> TZTUtilsDbManager::AbrirConsultaSQL(std::string ATexto
 std::vector<std::string> TZTUtilsDbManager::ListaDeCampo(const TDataSet& ADataSet, std::string_view ACampo) const {
     const auto* LCampo = ADataSet.FindField(ACampo);
     if (!LCampo)
-        throw TFalha("O conjunto de dados " + ADataSet.Nome() + " não tem o campo " + std::string(ACampo) + ".");
+        throw base::TFalha("O conjunto de dados " + ADataSet.Nome() + " não tem o campo " + std::string(ACampo) + ".");
     std::vector<std::string> LLista;
     const auto& LColuna = ADataSet.Colunas()[LCampo->Indice()];
     for (std::size_t I = 0; I < ADataSet.RecordCount(); ++I)
-        LLista.push_back(TextoDe(LColuna.Valor(ADataSet.LinhaDe(I))));
+        LLista.push_back(base::TextoDe(LColuna.Valor(ADataSet.LinhaDe(I))));
     return LLista;
 }
 

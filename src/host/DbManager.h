@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/DataSet.h"
+#include "host/Exportar.h"
 
 namespace host {
 

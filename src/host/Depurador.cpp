@@ -1,6 +1,6 @@
 #include "host/Depurador.h"
 
-#include "host/ArquivoInteiro.h"
+#include "base/ArquivoInteiro.h"
 #include "host/Servicos.h"
 
 #include <filesystem>
@@ -23,7 +23,7 @@ void GravarParaDepuracao(const std::string& ANome, const std::string& ATexto) {
     std::error_code LIgnorado; // the file that cannot be written tells it
     std::filesystem::create_directories(LPasta, LIgnorado);
     const auto LArquivo = LPasta + ANome;
-    GravarArquivoInteiro(LArquivo, [&](const auto& ACaminho) {
+    base::GravarArquivoInteiro(LArquivo, [&](const auto& ACaminho) {
         std::ofstream LSaida(ACaminho, std::ios::binary);
         LSaida.exceptions(std::ios::failbit | std::ios::badbit);
         LSaida << ATexto;

@@ -21,7 +21,7 @@ void TZTUtilsDialogs::Informacao(const std::string& ATexto) const {
     Servicos().Interacao->Mensagem({TNivelMensagem::Informacao, "Informação:", ATexto, {"OK"}, 6});
 }
 
-void TZTUtilsDialogs::Erro(const std::string& ATexto, const std::optional<TFalhaBanco>& ACausa) const {
+void TZTUtilsDialogs::Erro(const std::string& ATexto, const std::optional<base::TFalhaBanco>& ACausa) const {
     Servicos().Interacao->Mensagem({TNivelMensagem::Erro, "Erro:", ATexto, {"OK"}, 6, ACausa});
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/Exportar.h"
 #include "host/Interacao.h"
 
 namespace host {
@@ -9,7 +10,7 @@ class HOST_API TZTUtilsDialogs {
   public:
     void Informacao(const std::string& ATexto) const;
     // With the failure of the database that it tells of, where it is one.
-    void Erro(const std::string& ATexto, const std::optional<TFalhaBanco>& ACausa = {}) const;
+    void Erro(const std::string& ATexto, const std::optional<base::TFalhaBanco>& ACausa = {}) const;
     // A question with the buttons of that type.
     int Confirmacao(const std::string& ATexto, int ATipoBotao, const std::string& ATitulo) const;
     // Buttons by their captions. Returns 6, 7 or 2 for the first, second or third.

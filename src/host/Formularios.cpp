@@ -1,6 +1,6 @@
 #include "host/Formularios.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 #include "host/Servicos.h"
 
 namespace host {
@@ -13,7 +13,7 @@ template <class TLista, class TNomear>
     std::string LLista;
     for (const auto* LItem : AExistentes)
         LLista += (LLista.empty() ? "" : ", ") + ANomear(*LItem);
-    throw TFalha(AForm + " não tem \"" + std::string(ANome) + "\". Existem: " + LLista + ".");
+    throw base::TFalha(AForm + " não tem \"" + std::string(ANome) + "\". Existem: " + LLista + ".");
 }
 
 } // namespace
@@ -32,7 +32,7 @@ TControle& TForm::Controle(std::string_view ANome) const {
 TAction& TForm::Acao(std::string_view ANome) const {
     if (auto* LAcao = dynamic_cast<TAction*>(&Controle(ANome)))
         return *LAcao;
-    throw TFalha(FNome + ": \"" + std::string(ANome) + "\" não é uma ação.");
+    throw base::TFalha(FNome + ": \"" + std::string(ANome) + "\" não é uma ação.");
 }
 
 TDataSet& TForm::DataSet(std::string_view ANome) const {
@@ -48,7 +48,7 @@ bool TForm::SairDe(TControle& AControle) {
         if (AControle.OnExit)
             AControle.OnExit();
         return true;
-    } catch (const Abort&) { // the rule has told the user
+    } catch (const base::Abort&) { // the rule has told the user
         return false;
     }
 }
@@ -56,14 +56,14 @@ bool TForm::SairDe(TControle& AControle) {
 void TForm::Executar(TAction& AAcao) {
     try {
         AAcao.Execute();
-    } catch (const Abort&) { // the rule has told the user
+    } catch (const base::Abort&) { // the rule has told the user
     }
 }
 
 bool TForm::Teclar(TControle& AControle, TTecla ATecla) {
     try {
         return (AControle.OnKeyDown && AControle.OnKeyDown(ATecla)) || FormKeyDown(ATecla);
-    } catch (const Abort&) { // the rule has told the user
+    } catch (const base::Abort&) { // the rule has told the user
         return true;
     }
 }

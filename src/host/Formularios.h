@@ -2,6 +2,7 @@
 
 #include "host/Controles.h"
 #include "host/DataSet.h"
+#include "host/Exportar.h"
 
 #include <memory>
 #include <string>
@@ -73,7 +74,7 @@ struct TCampoDescrito;
 
 // What a field of a data module holds: a value or NULL, a mark, a list, or a record. An enumeration is its name, and
 // what counts as not set (a blank date, an absent list) is NULL.
-using TConteudoDescrito = std::variant<TValor, bool, std::vector<std::string>, std::vector<TCampoDescrito>>;
+using TConteudoDescrito = std::variant<base::TValor, bool, std::vector<std::string>, std::vector<TCampoDescrito>>;
 
 struct HOST_API TCampoDescrito {
     std::string Nome;

@@ -1,7 +1,7 @@
 #include "host/Grade.h"
 
-#include "host/Falhas.h"
-#include "host/FormatoNumerico.h"
+#include "base/Falhas.h"
+#include "base/FormatoNumerico.h"
 
 #include <algorithm>
 
@@ -22,18 +22,19 @@ std::string TituloPorExtenso(const std::vector<const TColunaGrade*>& AColunas, s
     return LColuna.Titulo;
 }
 
-std::string TextoExibido(const TValor& AValor, std::string_view AFormato) {
-    if (const auto* LDecimal = std::get_if<TDecimal>(&AValor))
-        return LDecimal->Escala == 0 && AFormato.empty() ? LDecimal->Texto() : FormatarNumero(*LDecimal, AFormato);
-    if (const auto* LData = std::get_if<TDataHora>(&AValor))
+std::string TextoExibido(const base::TValor& AValor, std::string_view AFormato) {
+    if (const auto* LDecimal = std::get_if<base::TDecimal>(&AValor))
+        return LDecimal->Escala == 0 && AFormato.empty() ? LDecimal->Texto()
+                                                         : base::FormatarNumero(*LDecimal, AFormato);
+    if (const auto* LData = std::get_if<base::TDataHora>(&AValor))
         return LData->Texto();
-    return TextoDe(AValor);
+    return base::TextoDe(AValor);
 }
 
-TValor TCelula::Valor(std::string_view ACampo) const {
+base::TValor TCelula::Valor(std::string_view ACampo) const {
     const auto* LDados = Grade->DataSet();
     const auto* LCampo = LDados ? LDados->FindField(ACampo) : nullptr;
-    return LCampo ? LDados->Colunas()[LCampo->Indice()].Valor(LDados->LinhaDe(Posicao)) : TValor{};
+    return LCampo ? LDados->Colunas()[LCampo->Indice()].Valor(LDados->LinhaDe(Posicao)) : base::TValor{};
 }
 
 std::string TCelula::Texto() const {
@@ -55,7 +56,7 @@ const TColunaGrade& TGrade::Coluna(std::string_view ACampo) const {
     const auto LColuna =
         std::find_if(FColunas.begin(), FColunas.end(), [&](const TColunaGrade& C) { return C.Campo == ACampo; });
     if (LColuna == FColunas.end())
-        throw TFalha("A grade " + Nome() + " não tem a coluna " + std::string(ACampo) + ".");
+        throw base::TFalha("A grade " + Nome() + " não tem a coluna " + std::string(ACampo) + ".");
     return *LColuna;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/Exportar.h"
 #include "host/Formularios.h"
 
 #include <cstdint>
@@ -38,7 +39,7 @@ struct HOST_API TCelula {
     bool Selecionada = false;
 
     // The row's value of any field, shown or not; NULL for a field that the dataset does not have.
-    TValor Valor(std::string_view ACampo) const;
+    base::TValor Valor(std::string_view ACampo) const;
     // The cell's own text as it is displayed, "" for NULL.
     std::string Texto() const;
 };
@@ -85,6 +86,6 @@ HOST_API std::string TituloPorExtenso(const std::vector<const TColunaGrade*>& AC
 
 // A value as a Brazilian reader expects it: numbers by the format (empty: a whole number plain, another with all its
 // decimals), dates as dd/mm/aaaa, "" for NULL.
-HOST_API std::string TextoExibido(const TValor& AValor, std::string_view AFormato);
+HOST_API std::string TextoExibido(const base::TValor& AValor, std::string_view AFormato);
 
 } // namespace host

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
+#include "host/Exportar.h"
 
 #include <optional>
 #include <string>
@@ -20,8 +21,8 @@ struct HOST_API TMensagem {
     std::string Titulo;
     std::string Texto; // line breaks are carriage returns
     std::vector<std::string> Botoes;
-    int Padrao = 6;                        // result code of the default button
-    std::optional<TFalhaBanco> Causa = {}; // of the database, where the message tells of its failure
+    int Padrao = 6;                              // result code of the default button
+    std::optional<base::TFalhaBanco> Causa = {}; // of the database, where the message tells of its failure
 };
 
 struct HOST_API TEventoProgresso {

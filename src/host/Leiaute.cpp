@@ -1,9 +1,9 @@
 #include "host/Leiaute.h"
 
+#include "base/Falhas.h"
+#include "base/Texto.h"
 #include "host/Dialogos.h"
-#include "host/Falhas.h"
 #include "host/Servicos.h"
-#include "host/Texto.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -62,7 +62,7 @@ void TZTDbGridDevLeiaute::CarregarListaDeLeiautes() {
     try {
         if (Servicos().Leiautes)
             LLeiautes = Armazem().Listar(Dono());
-    } catch (const TFalha& LFalha) {
+    } catch (const base::TFalha& LFalha) {
         GZTUtilsDialogs.Erro(LFalha.what());
     }
     Mudar(FLeiautes, std::move(LLeiautes));
@@ -91,7 +91,7 @@ void TZTDbGridDevLeiaute::Escolher(const std::string& ANome) {
         TLeiaute LLeiaute;
         try {
             LLeiaute = Armazem().Ler(Dono(), ANome);
-        } catch (const TFalha& LFalha) {
+        } catch (const base::TFalha& LFalha) {
             GZTUtilsDialogs.Erro(LFalha.what());
             return;
         }
@@ -101,9 +101,9 @@ void TZTDbGridDevLeiaute::Escolher(const std::string& ANome) {
 }
 
 void TZTDbGridDevLeiaute::Salvar(const std::string& ANome) {
-    const auto LNome = Trim(ANome);
+    const auto LNome = base::Trim(ANome);
     if (LNome.empty())
-        throw TFalha("Informe o nome do leiaute.");
+        throw base::TFalha("Informe o nome do leiaute.");
     Armazem().Gravar(Dono(), LNome, LeiauteDe(FGrade->Colunas()));
     CarregarListaDeLeiautes();
     Mudar(FEscolhido, LNome);

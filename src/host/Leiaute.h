@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/Exportar.h"
 #include "host/Grade.h"
 
 #include <cstdint>

@@ -1,10 +1,10 @@
 #include "host/Lookup.h"
 
+#include "base/Falhas.h"
+#include "base/Texto.h"
 #include "host/DbManager.h"
 #include "host/Dialogos.h"
-#include "host/Falhas.h"
 #include "host/Grade.h"
-#include "host/Texto.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -39,8 +39,8 @@ class TCursorDeLinhas : public TCursor {
 std::string TextoDaCelula(const TDataSet& ADataSet, const std::string& ACampo, std::size_t ALinha) {
     const auto* LCampo = ADataSet.FindField(ACampo);
     if (!LCampo)
-        throw TFalha("A pesquisa " + ADataSet.Nome() + " não traz o campo " + ACampo + ".");
-    return TextoDe(ADataSet.Colunas()[LCampo->Indice()].Valor(ALinha));
+        throw base::TFalha("A pesquisa " + ADataSet.Nome() + " não traz o campo " + ACampo + ".");
+    return base::TextoDe(ADataSet.Colunas()[LCampo->Indice()].Valor(ALinha));
 }
 
 // Letters of ISO8859_1 without case and accents, as the database compares them; anything else as it is.
@@ -102,7 +102,7 @@ std::unique_ptr<TZTClientDataSet> TZTLookupEx::Pesquisar() const {
 }
 
 std::vector<std::size_t> TZTLookupEx::Filtrar(const TDataSet& APesquisa, std::string_view ATexto) const {
-    const auto LProcurado = SemAcentos(Trim(ATexto));
+    const auto LProcurado = SemAcentos(base::Trim(ATexto));
     std::vector<std::size_t> LPosicoes;
     for (std::size_t I = 0; I < APesquisa.RecordCount(); ++I)
         if (std::any_of(FDefinicao.Colunas.begin(), FDefinicao.Colunas.end(), [&](const TColunaLookup& C) {
@@ -146,7 +146,7 @@ void TZTLookupEx::SetID(std::int64_t AID) {
 }
 
 void TZTLookupEx::Digitar(const std::string& ACodigo) {
-    const auto LCodigo = Trim(ACodigo);
+    const auto LCodigo = base::Trim(ACodigo);
     Clear();
     if (LCodigo.empty() || (LCodigo == "0" && FDefinicao.PermiteZero))
         return;

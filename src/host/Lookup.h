@@ -2,6 +2,7 @@
 
 #include "host/Controles.h"
 #include "host/DataSet.h"
+#include "host/Exportar.h"
 
 #include <functional>
 #include <memory>

@@ -1,6 +1,6 @@
 #include "host/LookupsContabeis.h"
 
-#include "host/Texto.h"
+#include "base/Texto.h"
 
 namespace host {
 
@@ -72,19 +72,21 @@ TDefinicaoLookup Conta() {
 
 TframeZTLookupFilial::TframeZTLookupFilial(std::string ANome, std::string ATextoZero)
     : TZTLookupEx(std::move(ANome), Filial(std::move(ATextoZero))) {
-    AntesDeBuscar = [this](TBusca& ABusca) { ABusca.Condicao = Format("SC00_FILIAL.IDEMPRESA = %d", {IDEmpresa()}); };
+    AntesDeBuscar = [this](TBusca& ABusca) {
+        ABusca.Condicao = base::Format("SC00_FILIAL.IDEMPRESA = %d", {IDEmpresa()});
+    };
 }
 
 TFrameZTTandorLookupCentroCusto::TFrameZTTandorLookupCentroCusto(std::string ANome, std::string ATextoZero)
     : TZTLookupEx(std::move(ANome), CentroCusto(std::move(ATextoZero))) {
     AntesDeBuscar = [this](TBusca& ABusca) {
-        ABusca.Condicao = Format("CO01_CENTROCUSTO.IDEMPRESA = %d", {IDEmpresa()});
+        ABusca.Condicao = base::Format("CO01_CENTROCUSTO.IDEMPRESA = %d", {IDEmpresa()});
     };
 }
 
 TLookupConta::TLookupConta(std::string ANome) : TZTLookupEx(std::move(ANome), Conta()) {
     AntesDeBuscar = [this](TBusca& ABusca) {
-        ABusca.Condicao = Format("CO01_PLANO.IDEMPRESA = %d", {IDEmpresaPlano()});
+        ABusca.Condicao = base::Format("CO01_PLANO.IDEMPRESA = %d", {IDEmpresaPlano()});
         if (CondicaoPesquisaConta)
             ABusca.Condicao += " AND " + CondicaoPesquisaConta();
     };

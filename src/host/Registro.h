@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/Exportar.h"
 #include "host/Formularios.h"
 
 #include <functional>

@@ -2,6 +2,7 @@
 
 #include "host/Conexao.h"
 #include "host/Empresa.h"
+#include "host/Exportar.h"
 #include "host/Interacao.h"
 
 namespace host {

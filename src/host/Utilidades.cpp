@@ -1,16 +1,16 @@
 #include "host/Utilidades.h"
 
+#include "base/Texto.h"
 #include "host/DataSet.h"
 #include "host/Dialogos.h"
 #include "host/Servicos.h"
-#include "host/Texto.h"
 
 #include <stdexcept>
 
 namespace host {
 
-std::string TUtilGeral::FormataData(TDataHora AData, bool AComAspas) const {
-    return AComAspas ? QuotedStr(AData.TextoIso()) : AData.TextoIso();
+std::string TUtilGeral::FormataData(base::TDataHora AData, bool AComAspas) const {
+    return AComAspas ? base::QuotedStr(AData.TextoIso()) : AData.TextoIso();
 }
 
 void TUtilGeral::FormataCampoValor(TField& ACampo) const { FormatarCampoNumerico(ACampo, ",0.00", "0.00"); }
@@ -20,7 +20,7 @@ void TUtilGeral::FormatarCampoNumerico(TField& ACampo, std::string AExibicao, st
     ACampo.FormatoEdicao = std::move(AEdicao);
 }
 
-int TUtilGeral::EspacoEntreDatas(TDataHora AInicio, TDataHora AFim, std::string_view AUnidade,
+int TUtilGeral::EspacoEntreDatas(base::TDataHora AInicio, base::TDataHora AFim, std::string_view AUnidade,
                                  std::string_view AModo) const {
     const int LMeses = (AFim.Ano() - AInicio.Ano()) * 12 + AFim.Mes() - AInicio.Mes();
     if (AUnidade == "MESES" && AModo == "PARCIAL")
@@ -31,7 +31,7 @@ int TUtilGeral::EspacoEntreDatas(TDataHora AInicio, TDataHora AFim, std::string_
 }
 
 bool TZTUtilsValidacoes::ValidouData(std::string_view ATexto, const std::string& AMensagem) {
-    if (TDataHora::DeTexto(ATexto))
+    if (base::TDataHora::DeTexto(ATexto))
         return true;
     GZTUtilsDialogs.Informacao(AMensagem);
     return false;

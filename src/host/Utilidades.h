@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/DataHora.h"
+#include "base/DataHora.h"
 #include "host/Exportar.h"
 
 #include <initializer_list>
@@ -15,19 +15,20 @@ class TField;
 class HOST_API TUtilGeral {
   public:
     // The date as a SQL literal, with its quotes or without.
-    std::string FormataData(TDataHora AData, bool AComAspas) const;
+    std::string FormataData(base::TDataHora AData, bool AComAspas) const;
     // The suite's standard format of a money value.
     void FormataCampoValor(TField& ACampo) const;
     void FormatarCampoNumerico(TField& ACampo, std::string AExibicao, std::string AEdicao) const;
     // "ANOS" with "INTEGRAL": completed years. "MESES" with "PARCIAL": month boundaries between the two dates, so 0
     // within one calendar month. No other pair is known: std::logic_error.
-    int EspacoEntreDatas(TDataHora AInicio, TDataHora AFim, std::string_view AUnidade, std::string_view AModo) const;
+    int EspacoEntreDatas(base::TDataHora AInicio, base::TDataHora AFim, std::string_view AUnidade,
+                         std::string_view AModo) const;
 };
 
 const inline TUtilGeral GUtilGeral;
 
 struct HOST_API TZTUtilsDatas {
-    static TDataHora BuscarUltimoDiaMes(TDataHora AData) { return AData.UltimoDiaDoMes(); }
+    static base::TDataHora BuscarUltimoDiaMes(base::TDataHora AData) { return AData.UltimoDiaDoMes(); }
 };
 
 struct HOST_API TZTUtilsValidacoes {

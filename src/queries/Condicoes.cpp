@@ -1,7 +1,7 @@
 #include "queries/Condicoes.h"
 
+#include "base/Texto.h"
 #include "core/Un04618Dm.h"
-#include "host/Texto.h"
 
 namespace pct04618 {
 
@@ -10,10 +10,10 @@ std::string CondicaoFilial(const TDM04618& ADm) {
         std::string LLista;
         for (const auto& LID : *ADm.FListaIDsFilial)
             LLista += (LLista.empty() ? "" : ",") + LID;
-        return host::Format("AND CO01_CTBORCADAVLR.IDFILIAL IN (%s)", {LLista});
+        return base::Format("AND CO01_CTBORCADAVLR.IDFILIAL IN (%s)", {LLista});
     }
     if (ADm.FIDFilial > 0)
-        return host::Format("AND CO01_CTBORCADAVLR.IDFILIAL = %d", {ADm.FIDFilial});
+        return base::Format("AND CO01_CTBORCADAVLR.IDFILIAL = %d", {ADm.FIDFilial});
     return {};
 }
 

@@ -1,6 +1,6 @@
 #include "queries/Periodo.h"
 
-#include "host/Texto.h"
+#include "base/Texto.h"
 
 namespace pct04618 {
 
@@ -28,7 +28,7 @@ END)";
 } // namespace
 
 std::string DescricaoDoPeriodo(std::size_t ARecuo) {
-    return Recuado(host::Format(Descricao, {ProjecaoMensal}), ARecuo);
+    return Recuado(base::Format(Descricao, {ProjecaoMensal}), ARecuo);
 }
 
 std::string Recuado(std::string_view ATexto, std::size_t ARecuo) {

@@ -1,6 +1,6 @@
+#include "base/Texto.h"
 #include "core/Un04618Const.h"
 #include "core/Un04618Dm.h"
-#include "host/Texto.h"
 #include "queries/Condicoes.h"
 #include "queries/SqlBalanco.h"
 #include "queries/SqlLimites.h"
@@ -9,16 +9,16 @@ namespace pct04618 {
 
 namespace {
 
-using host::Format;
+using base::Format;
 
 // What begins with the text, as an operand of LIKE. The text's own wildcards stand for themselves.
 std::string ComecaPor(const std::string& ATexto) {
     if (ATexto.find_first_of("_%") == std::string::npos)
-        return host::QuotedStr(ATexto + "%");
+        return base::QuotedStr(ATexto + "%");
     std::string LTexto;
     for (const char C : ATexto)
         LTexto += C == '_' || C == '%' || C == '\\' ? std::string{'\\', C} : std::string{C};
-    return host::QuotedStr(LTexto + "%") + " ESCAPE '\\'";
+    return base::QuotedStr(LTexto + "%") + " ESCAPE '\\'";
 }
 
 // One account chosen alone brings all accounts below it; several are taken as they are.
@@ -74,7 +74,7 @@ std::string TDM04618::BuscarDadosOrcamentariaComBaseNoBalanco() const {
                       LExato && !FAgruparValFiliais ? sql::BalancoProjecaoFora : sql::BalancoProjecaoForaConstante,
                       LExato ? "GROUP BY 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17"
                              : "GROUP BY 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13",
-                      host::Trim(FInformacoesCtbOrcadaInf.LListaIDs),
+                      base::Trim(FInformacoesCtbOrcadaInf.LListaIDs),
                       std::int64_t{FCenario},
                       CondicaoFilial(*this),
                       CondicaoCentroCusto(*this),

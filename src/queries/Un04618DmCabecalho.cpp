@@ -1,14 +1,14 @@
+#include "base/Falhas.h"
+#include "base/Texto.h"
 #include "core/Un04618Const.h"
 #include "core/Un04618Dm.h"
-#include "host/Falhas.h"
 #include "host/Servicos.h"
-#include "host/Texto.h"
 #include "queries/Periodo.h"
 #include "queries/SqlCabecalho.h"
 
 namespace pct04618 {
 
-using host::Format;
+using base::Format;
 
 void TDM04618::BuscarCabecalhoOrcamentaria(host::TZTClientDataSet& ADataSet, TDetalharSelecao ADetalharSelecao) const {
     const auto& LProjecoes = FInformacoesCtbOrcadaInf.LListaIDs;
@@ -29,11 +29,11 @@ void TDM04618::RemoverValorRealizado(const std::string& AIDsOrcadaInf) {
         host::GZTUtilsDialogs.Informacao("Valores realizados excluídos com sucesso.");
     } catch (const std::exception& E) {
         LConexao.CancelarTransacao(*LTransacao);
-        const auto* LFalha = dynamic_cast<const host::TFalhaBanco*>(&E);
+        const auto* LFalha = dynamic_cast<const base::TFalhaBanco*>(&E);
         host::GZTUtilsDialogs.Erro(std::string("Não foi possível remover o valor realizado da projeção.\r\rErro: ") +
                                        E.what(),
                                    LFalha ? std::optional(*LFalha) : std::nullopt);
-        throw host::Abort();
+        throw base::Abort();
     }
     CdsExcluirCtbOrcadaVlr.Close();
 }

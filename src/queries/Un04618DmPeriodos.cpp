@@ -1,7 +1,7 @@
+#include "base/Falhas.h"
+#include "base/Texto.h"
 #include "core/Un04618Const.h"
 #include "core/Un04618Dm.h"
-#include "host/Falhas.h"
-#include "host/Texto.h"
 #include "queries/Condicoes.h"
 #include "queries/Periodo.h"
 #include "queries/SqlLimites.h"
@@ -12,7 +12,7 @@ namespace pct04618 {
 
 namespace {
 
-using host::Format;
+using base::Format;
 
 struct TTipoLinha {
     std::int64_t Tipo;
@@ -49,7 +49,7 @@ const char* Diferenca(const TDM04618& ADm) { return ADm.FCalcularPercentualDifer
 
 std::string Varredura(const TDM04618& ADm, bool AImpPerComMov) {
     return Format(sql::VarreduraPeriodos, {
-                                              host::Trim(ADm.FInformacoesCtbOrcadaInf.LListaIDs),
+                                              base::Trim(ADm.FInformacoesCtbOrcadaInf.LListaIDs),
                                               std::int64_t{ADm.FCenario},
                                               AImpPerComMov ? " LEFT JOIN" : "INNER JOIN",
                                               Linha(CondicaoFilial(ADm)),
@@ -67,7 +67,7 @@ std::string Juncoes(const TDM04618& ADm) {
                       ADm.FIDDemac,
                       ADm.FImprimirDetContasTotaliz ? "" : "\n  AND CO01_CTBORCADAVLR.IDPLANO IS NULL",
                       ADm.FIDsTotalizadores.empty() ? "" : "\n  AND(" + ADm.FIDsTotalizadores + ")",
-                      host::Trim(ADm.FInformacoesCtbOrcadaInf.LListaIDs),
+                      base::Trim(ADm.FInformacoesCtbOrcadaInf.LListaIDs),
                   });
 }
 
@@ -151,7 +151,7 @@ std::string LinhasDoTipo(const TDM04618& ADm, TSoma ASoma, const TTipoLinha& ALi
                       ALinha.Ano,
                       PorPeriodo("", [&](std::int64_t I) { return ColunasDoPeriodo(ADm, ASoma, ALinha, I); }),
                       Recuado(Juncoes(ADm), 9),
-                      host::Trim(ADm.FInformacoesCtbOrcadaInf.LListaIDs),
+                      base::Trim(ADm.FInformacoesCtbOrcadaInf.LListaIDs),
                       Condicoes(ADm),
                   });
 }
@@ -263,7 +263,7 @@ void TDM04618::BuscarDadosOrcamentariaBalancoOuDemonstConfigDemonstPeriodosEmCol
     ADataSet.CommandText = Bloco(*this, TSoma::Inteira, AImpPerComMov);
     try {
         ADataSet.Open();
-    } catch (const host::TFalhaBanco& E) {
+    } catch (const base::TFalhaBanco& E) {
         if (E.Estado() != NumeroAlemDoLimite)
             throw;
         ADataSet.CommandText = Bloco(*this, TSoma::EmPartes, AImpPerComMov);

@@ -1,10 +1,10 @@
 #include "selection/Un04618FormSelecao.h"
 
+#include "base/Falhas.h"
+#include "base/Texto.h"
 #include "core/Un04618Const.h"
 #include "host/DbManager.h"
-#include "host/Falhas.h"
 #include "host/Servicos.h"
-#include "host/Texto.h"
 #include "host/Utilidades.h"
 #include "selection/DefinicoesLookups.h"
 #include "selection/SqlSelecao.h"
@@ -19,14 +19,14 @@ using host::TZTUtilsControls;
 [[noreturn]] void Recusar(const char* AMensagem, host::TControle& AControle) {
     GZTUtilsDialogs.Informacao(AMensagem);
     TZTUtilsControls::AtribuirFocoControle(AControle);
-    throw host::Abort();
+    throw base::Abort();
 }
 
 void ExigirData(const host::TZTDateEdit& AData, const char* AMensagem, host::TControle& AControle) {
     if (host::TZTUtilsValidacoes::ValidouData(AData.Texto(), AMensagem))
         return;
     TZTUtilsControls::AtribuirFocoControle(AControle);
-    throw host::Abort();
+    throw base::Abort();
 }
 
 } // namespace
@@ -70,7 +70,7 @@ void TForm04618Selecao::ValidarDataSeHePrimeiroEUltimoDiaMes(host::TZTDateEdit& 
         GZTUtilsDialogs.Informacao("A data final deve ser o último dia do mês.");
         AData.SetDate(LUltimoDia);
         TZTUtilsControls::AtribuirFocoControle(AData);
-        throw host::Abort();
+        throw base::Abort();
     }
     if (ADataInicial && !(ADataInicial->Date() < AData.Date()))
         Recusar("A data inicial não pode ser maior que a data final. Verifique.", DeDataFim);
@@ -86,7 +86,7 @@ void TForm04618Selecao::ActOKExecute(host::TControle*) {
     };
     try {
         AtribuirPropriedadesDm04618();
-        if (!host::Trim(FDm04618.FInformacoesCtbOrcadaInf.LListaIDs).empty())
+        if (!base::Trim(FDm04618.FInformacoesCtbOrcadaInf.LListaIDs).empty())
             ExecutarConsultaDoModo();
     } catch (...) {
         LEncerrar();
@@ -108,7 +108,7 @@ void TForm04618Selecao::ExecutarConsultaDoModo() {
 
 bool TForm04618Selecao::JaExistemProjecoesGeradas() const {
     return !host::BuscarInstanciaZTUtilsDbManager()
-                .AbrirConsultaSQL(host::Format(sql::TotalizacoesGeradas,
+                .AbrirConsultaSQL(base::Format(sql::TotalizacoesGeradas,
                                                {FDm04618.FInformacoesCtbOrcadaInf.LListaIDs, FDm04618.FIDDemac}),
                                   "JaExistemProjecoesGeradas")
                 ->IsEmpty();
@@ -158,7 +158,7 @@ void TForm04618Selecao::AtribuirPropriedadesDm04618() {
         BuscarIDsMultiselecao(LkpContas, LRazao ? "CO01_PLANO.IDPLANO = " : "CO01_CTBORCADAVLR.IDPLANO = ", "IDPLANO");
     AtribuirUsuariosPorAtribuicao();
     AtribuirHolding();
-    LDm.FCenario = host::NumeroOuZero(CbCenario.GetValorSelecionado());
+    LDm.FCenario = base::NumeroOuZero(CbCenario.GetValorSelecionado());
     LDm.FAnoI = DeDataIni.Date().Ano();
     LDm.FAnoF = DeDataFim.Date().Ano();
     LDm.FClassificacao = LkpContas.GetClassifContab();
@@ -227,7 +227,7 @@ void TForm04618Selecao::BuscarInformacoesOrcamentaria() {
     LProgresso.FecharBarraProgresso();
 }
 
-void TForm04618Selecao::AtribuirDadosSelecao(std::int64_t AIDFilial, host::TDataHora ADataIni, host::TDataHora ADataFim,
+void TForm04618Selecao::AtribuirDadosSelecao(std::int64_t AIDFilial, base::TDataHora ADataIni, base::TDataHora ADataFim,
                                              std::int32_t AVisualizacao, std::int32_t ADetalhar,
                                              std::int32_t ACenario) {
     if (AIDFilial > 0)

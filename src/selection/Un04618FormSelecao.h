@@ -18,7 +18,7 @@ class TForm04618Selecao final : public host::TFormZTTandorPadraoResult {
     // True from the moment the dialog is shown until an OK has passed validation.
     bool Cancelou() const { return FCancelou; }
     // Fills the dialog from outside, so that ActOKExecute can run without the user. AVisualizacao is an index from 0.
-    void AtribuirDadosSelecao(std::int64_t AIDFilial, host::TDataHora ADataIni, host::TDataHora ADataFim,
+    void AtribuirDadosSelecao(std::int64_t AIDFilial, base::TDataHora ADataIni, base::TDataHora ADataFim,
                               std::int32_t AVisualizacao, std::int32_t ADetalhar, std::int32_t ACenario);
 
     void FormShow() override;

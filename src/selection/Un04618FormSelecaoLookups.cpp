@@ -1,6 +1,6 @@
+#include "base/Texto.h"
 #include "host/DbManager.h"
 #include "host/Servicos.h"
-#include "host/Texto.h"
 #include "host/Utilidades.h"
 #include "selection/SqlSelecao.h"
 #include "selection/Un04618FormSelecao.h"
@@ -14,8 +14,8 @@ void TForm04618Selecao::LigarEventosDosLookups() {
     };
     LkpPesquisaPerOrcConsulta.BuscaAchou = [this] {
         auto& LAchado = LkpPesquisaPerOrcConsulta.GetResultSet();
-        DeDataIni.SetDate(LAchado.FieldByName("DATAINICIO").AsDateTime().value_or(host::TDataHora()));
-        DeDataFim.SetDate(LAchado.FieldByName("DATAFIM").AsDateTime().value_or(host::TDataHora()));
+        DeDataIni.SetDate(LAchado.FieldByName("DATAINICIO").AsDateTime().value_or(base::TDataHora()));
+        DeDataFim.SetDate(LAchado.FieldByName("DATAFIM").AsDateTime().value_or(base::TDataHora()));
         if (DeDataIni.PodeReceberFoco())
             host::TZTUtilsControls::AtribuirFocoControle(DeDataIni);
     };
@@ -35,7 +35,7 @@ void TForm04618Selecao::LigarEventosDosLookups() {
 }
 
 void TForm04618Selecao::LkpEmpresaAntesDeBuscar(host::TZTLookupEx::TBusca& ABusca) const {
-    ABusca.Instrucao = host::Format(sql::EmpresasDaHolding, {FDm04618.FIDEmpresa});
+    ABusca.Instrucao = base::Format(sql::EmpresasDaHolding, {FDm04618.FIDEmpresa});
 }
 
 void TForm04618Selecao::LkpEstabelecimentoExit() {

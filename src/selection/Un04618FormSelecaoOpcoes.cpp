@@ -1,7 +1,7 @@
+#include "base/Texto.h"
 #include "core/Un04618Const.h"
 #include "host/DbManager.h"
 #include "host/Servicos.h"
-#include "host/Texto.h"
 #include "host/Utilidades.h"
 #include "selection/SqlSelecao.h"
 #include "selection/Un04618FormSelecao.h"
@@ -19,8 +19,8 @@ void Habilitar(bool AHabilitado, std::initializer_list<host::TControle*> AContro
 
 } // namespace
 
-std::int32_t TForm04618Selecao::Visualizacao() const { return host::NumeroOuZero(CbSelecionar.GetValorSelecionado()); }
-std::int32_t TForm04618Selecao::Modo() const { return host::NumeroOuZero(CbDetalharSelecao.GetValorSelecionado()); }
+std::int32_t TForm04618Selecao::Visualizacao() const { return base::NumeroOuZero(CbSelecionar.GetValorSelecionado()); }
+std::int32_t TForm04618Selecao::Modo() const { return base::NumeroOuZero(CbDetalharSelecao.GetValorSelecionado()); }
 
 bool TForm04618Selecao::UtilizaCentroDeCusto() const {
     return host::GUtilContabil().BuscarEmpresaUtilizaCtbPorCentroCusto(FDm04618.FIDEmpresa);
@@ -150,7 +150,7 @@ bool TForm04618Selecao::TotalizadoresSoDeContas() const {
     const auto LTem = [&](const char* AColuna) {
         return !host::BuscarInstanciaZTUtilsDbManager()
                     .AbrirConsultaSQL(
-                        host::Format(sql::TotalizadorComVinculo, {LkpRelatorioDemonstConfig.GetID(), AColuna}),
+                        base::Format(sql::TotalizadorComVinculo, {LkpRelatorioDemonstConfig.GetID(), AColuna}),
                         "TotalizadoresSoDeContas")
                     ->IsEmpty();
     };

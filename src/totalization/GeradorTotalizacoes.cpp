@@ -1,10 +1,10 @@
 #include "totalization/GeradorTotalizacoes.h"
 
+#include "base/Falhas.h"
+#include "base/Texto.h"
 #include "core/Un04618Const.h"
 #include "host/DbManager.h"
-#include "host/Falhas.h"
 #include "host/Servicos.h"
-#include "host/Texto.h"
 #include "totalization/SqlExclusao.h"
 
 namespace pct04618 {
@@ -73,15 +73,15 @@ void TGeradorTotalizacoes::ReservarProjecao() {
         "Não foi possível reservar a projeção para gerar as totalizações; nada foi alterado nela.\r\rErros : ";
     try {
         FTransacao = host::ZTConnection().IniciarTransacao();
-    } catch (const host::TFalhaBanco& E) {
+    } catch (const base::TFalhaBanco& E) {
         Falhar(LMensagem, E.what(), E);
     }
-    FScript = host::Format(sql::ReservarProjecao, {Projecao()});
+    FScript = base::Format(sql::ReservarProjecao, {Projecao()});
     Executar("ReservarProjecao", LMensagem);
 }
 
 void TGeradorTotalizacoes::ExcluirTotalizacoes() {
-    FScript = host::Format(sql::ExcluirTotalizacoes, {Projecao(), Relatorio()});
+    FScript = base::Format(sql::ExcluirTotalizacoes, {Projecao(), Relatorio()});
     Executar("ExcluirTotalizacoes", "Não foi possível excluir as totalizações das Configurações de \rDemonstrações "
                                     "Contábeis.\r\rErros : ");
 }
@@ -89,8 +89,8 @@ void TGeradorTotalizacoes::ExcluirTotalizacoes() {
 void TGeradorTotalizacoes::ConfirmarProjecao() {
     try {
         host::ZTConnection().FinalizarTransacao(*FTransacao);
-    } catch (const host::TFalhaBanco& E) {
-        const bool LSemResposta = E.Tipo() == host::TTipoFalhaBanco::Conexao; // the server may have done it
+    } catch (const base::TFalhaBanco& E) {
+        const bool LSemResposta = E.Tipo() == base::TTipoFalhaBanco::Conexao; // the server may have done it
         Falhar(LSemResposta ? "A conexão se perdeu enquanto as totalizações da projeção eram gravadas; não se sabe se "
                               "ficaram gravadas. Gere os totais novamente.\r\rErros : "
                             : "Não foi possível gravar as totalizações da projeção; ela ficou como estava.\r\rErros : ",
@@ -107,16 +107,16 @@ void TGeradorTotalizacoes::Executar(const char* ANome, const char* AMensagem) {
 }
 
 void TGeradorTotalizacoes::Falhar(const char* AMensagem, const std::string& AErro,
-                                  const std::optional<host::TFalhaBanco>& ACausa) {
+                                  const std::optional<base::TFalhaBanco>& ACausa) {
     FTransacao.reset(); // rolls back before the message: nobody else is to wait while it is read
     FDm.PararSeCancelado(FProgresso);
     host::GZTUtilsDialogs.Erro(AMensagem + AErro, ACausa);
-    throw host::Abort();
+    throw base::Abort();
 }
 
 std::string TGeradorTotalizacoes::Periodo() const {
     const auto LDia = [this](const char* ACampo) {
-        return FProjecoes->FieldByName(ACampo).AsDateTime().value_or(host::TDataHora()).SemHora().Texto();
+        return FProjecoes->FieldByName(ACampo).AsDateTime().value_or(base::TDataHora()).SemHora().Texto();
     };
     return LDia("DATAINICIO") + " a " + LDia("DATAFIM");
 }

@@ -10,7 +10,7 @@ namespace pct04618 {
 class TGeradorTotalizacoes {
   public:
     explicit TGeradorTotalizacoes(TDM04618& ADm);
-    // Throws host::Abort when the user stops it or when a statement fails, which the user has then been told.
+    // Throws base::Abort when the user stops it or when a statement fails, which the user has then been told.
     void Gerar();
 
   private:
@@ -42,7 +42,7 @@ class TGeradorTotalizacoes {
     // Runs FScript inside the projection's transaction. A failure rolls back, is shown behind AMensagem, and aborts.
     void Executar(const char* ANome, const char* AMensagem);
     [[noreturn]] void Falhar(const char* AMensagem, const std::string& AErro,
-                             const std::optional<host::TFalhaBanco>& ACausa);
+                             const std::optional<base::TFalhaBanco>& ACausa);
     std::int64_t Projecao() const { return FProjecoes->GetInt64FieldValue("IDCTBORCADAINF"); }
     std::int64_t Relatorio() const { return FRelatorios->GetInt64FieldValue("IDDEMAC"); }
     std::string Periodo() const;

@@ -1,5 +1,5 @@
+#include "base/Texto.h"
 #include "host/Depurador.h"
-#include "host/Texto.h"
 #include "totalization/GeradorTotalizacoes.h"
 #include "totalization/SqlDetalhamentos.h"
 #include "totalization/SqlTotaisPelosPais.h"
@@ -9,7 +9,7 @@ namespace pct04618 {
 
 void TGeradorTotalizacoes::PrepararEtapa(const char* ATexto, const char* AInstrucao) {
     FProgresso.BuscarBarraProgresso(NivelEtapas).SetTexto(ATexto);
-    FScript = host::Format(AInstrucao, {Projecao(), Relatorio()});
+    FScript = base::Format(AInstrucao, {Projecao(), Relatorio()});
 }
 
 void TGeradorTotalizacoes::ConcluirEtapa(const char* ANome, const char* AMensagem) {

@@ -1,7 +1,7 @@
+#include "base/Falhas.h"
+#include "base/Grafo.h"
+#include "base/Texto.h"
 #include "host/DbManager.h"
-#include "host/Falhas.h"
-#include "host/Grafo.h"
-#include "host/Texto.h"
 #include "totalization/GeradorTotalizacoes.h"
 #include "totalization/SqlDependencias.h"
 
@@ -9,7 +9,7 @@ namespace pct04618 {
 
 namespace {
 
-using host::Format;
+using base::Format;
 
 constexpr int SomenteOSelecionado = 6;
 constexpr int Todos = 7;
@@ -67,9 +67,9 @@ struct TTotalizadores {
     std::map<std::int64_t, std::int64_t> RelatorioDe;
     std::map<std::int64_t, std::set<std::int64_t>> DoRelatorio;
     std::map<std::int64_t, std::string> Nome;
-    host::TGrafo Pais;
-    host::TGrafo Relacionados;
-    host::TGrafo QueVinculam;
+    base::TGrafo Pais;
+    base::TGrafo Relacionados;
+    base::TGrafo QueVinculam;
 };
 
 } // namespace
@@ -91,7 +91,7 @@ void TGeradorTotalizacoes::RecusarCiclos() {
     host::GZTUtilsDialogs.Erro("Há totalizadores que dependem de si mesmos, e por isso os totais não podem ser "
                                "gerados; nada foi alterado.\r\r" +
                                LCiclos + "\rCorrija o cadastro da demonstração e tente novamente.");
-    throw host::Abort();
+    throw base::Abort();
 }
 
 void TGeradorTotalizacoes::ConfirmarDependenciaRelatorios(host::TZTClientDataSet& ARelatorios) {
@@ -112,7 +112,7 @@ void TGeradorTotalizacoes::ConfirmarDependenciaRelatorios(host::TZTClientDataSet
             "dependentes?",
         host::TNivelMensagem::Confirmacao, Todos, "Confirmação:", {"Selecionado", "Todos", "Cancelar"});
     if (LResposta == Cancelar)
-        throw host::Abort();
+        throw base::Abort();
     if (LResposta == SomenteOSelecionado)
         FFiltro = Format("WHERE HIERARQUIA.IDDEMAC = %d", {FDm.FIDDemac});
 }

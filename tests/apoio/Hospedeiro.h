@@ -16,7 +16,7 @@ namespace apoio {
 class Interacao : public host::TInteracao {
   public:
     std::vector<std::string> mensagens;
-    std::optional<host::TFalhaBanco> causa; // of the last message
+    std::optional<base::TFalhaBanco> causa; // of the last message
     std::vector<host::TEventoProgresso> progresso;
     bool cancelado = false;
     std::function<void(host::TFormZTTandorPadraoResult&)> aoMostrar;

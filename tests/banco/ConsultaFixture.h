@@ -41,7 +41,7 @@ INSERT INTO CO01_DEMACTOT (IDDEMACTOT, IDDEMAC, CODIGO, CLASSIF, DESCRICAO, TITU
 INSERT INTO US09_USUARIO (IDUSUARIO, CODIGO, NOME) VALUES (1, 1, 'Ana');
 )";
 
-inline host::TDataHora Dia(const char* texto) { return *host::TDataHora::DeTexto(texto); }
+inline base::TDataHora Dia(const char* texto) { return *base::TDataHora::DeTexto(texto); }
 
 // The rows of an open dataset, the named columns of each joined by "|".
 inline Lista LinhasDe(host::TDataSet& dados, const std::vector<const char*>& colunas) {

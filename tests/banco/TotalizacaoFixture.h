@@ -1,7 +1,7 @@
 #pragma once
 
 #include "banco/ConsultaFixture.h"
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 
 namespace apoio {
 
@@ -75,7 +75,7 @@ SELECT INF.IDCTBORCADAINF, 1, FIL.IDFILIAL, TOT.IDDEMACTOT, 7, 7, 7
 // How a run ended, and what it has shown.
 struct Rodada {
     Lista mensagens; // without the questions
-    std::optional<host::TFalhaBanco> causa;
+    std::optional<base::TFalhaBanco> causa;
     Lista projecoes; // those begun, as level 0 of the progress dialog names them
     bool abortou = false;
     std::string falha; // raised beside the abort
@@ -118,9 +118,9 @@ inline Rodada Gerar(suite::firebird::Connection& conexao, AoProgredir aoProgredi
     Rodada rodada;
     try {
         dm.GerarTotalizacoesDemonstracoesConfiguraveis();
-    } catch (const host::Abort&) {
+    } catch (const base::Abort&) {
         rodada.abortou = true;
-    } catch (const host::TFalha& falha) {
+    } catch (const base::TFalha& falha) {
         rodada.falha = falha.what();
     }
     rodada.mensagens = interacao.mensagens;

@@ -1,7 +1,7 @@
 // The headers of a selection, and the removal of actual values, on a real engine.
 #include "banco/ConsultaFixture.h"
+#include "base/Falhas.h"
 #include "host/DbManager.h"
-#include "host/Falhas.h"
 
 using apoio::Lista;
 
@@ -59,7 +59,7 @@ TEST_F(Cabecalho, UmaLinhaPorProjecaoOuPorPeriodo) {
                      "2024-01-01|2024-01-31|2|1|Janeiro", "2024-03-01|2024-03-31|1|3|Março"}),
               periodos);
     EXPECT_EQ(5U, dados->Fields().size());
-    EXPECT_THROW(Buscar("", 4, {}), host::TFalhaBanco);
+    EXPECT_THROW(Buscar("", 4, {}), base::TFalhaBanco);
     EXPECT_FALSE(dados->Active());
 }
 
@@ -69,7 +69,7 @@ TEST_F(Cabecalho, RemoverZeraSoORealizadoDasProjecoes) {
     Dm().RemoverValorRealizado("1, 7");
     EXPECT_EQ((Lista{"1||1.00|2.00|0.00", "1|8|4.00|5.00|0.00", "1|9|7.00|8.00|0.00", "2||1.00|2.00|3.00"}), Valores());
     EXPECT_EQ(Lista{"Valores realizados excluídos com sucesso."}, interacao.mensagens);
-    EXPECT_THROW(host::ZTConnection().GetSQLConnection().ExecuteDirect("DELETE FROM CO01_CTBORCADAVLR"), host::TFalha)
+    EXPECT_THROW(host::ZTConnection().GetSQLConnection().ExecuteDirect("DELETE FROM CO01_CTBORCADAVLR"), base::TFalha)
         << "the transaction has ended";
 }
 
@@ -77,14 +77,14 @@ TEST_F(Cabecalho, FalhaAoRemoverNaoEsperaPeloUsuarioComATransacaoAberta) {
     struct TSemTransacao : apoio::Interacao {
         int Mensagem(const host::TMensagem& mensagem) override {
             EXPECT_THROW(host::ZTConnection().GetSQLConnection().ExecuteDirect("DELETE FROM CO01_CTBORCADAVLR"),
-                         host::TFalha);
+                         base::TFalha);
             return Interacao::Mensagem(mensagem);
         }
     } usuario;
     Dm();
     servicos.Interacao = &usuario;
     const host::TInstalacaoServicos comUsuario(servicos);
-    EXPECT_THROW(Dm().RemoverValorRealizado("x"), host::Abort);
+    EXPECT_THROW(Dm().RemoverValorRealizado("x"), base::Abort);
     EXPECT_EQ(1U, usuario.mensagens.size());
 }
 
@@ -98,10 +98,10 @@ TEST_F(Cabecalho, FalhaAoRemoverDesfazMostraEInterrompe) {
                    "    IF (EXISTS(SELECT 1 FROM CO01_CTBORCADAVLR WHERE VLRREALIZADO = 0)) THEN EXCEPTION NAO_ZERAR;\n"
                    "END^\n"
                    "SET TERM ; ^\n");
-    EXPECT_THROW(Dm().RemoverValorRealizado("1, x"), host::Abort);
-    EXPECT_THROW(Dm().RemoverValorRealizado("1"), host::Abort);
+    EXPECT_THROW(Dm().RemoverValorRealizado("1, x"), base::Abort);
+    EXPECT_THROW(Dm().RemoverValorRealizado("1"), base::Abort);
     EXPECT_EQ(Intactas, Valores());
-    EXPECT_THROW(host::ZTConnection().GetSQLConnection().ExecuteDirect("DELETE FROM CO01_CTBORCADAVLR"), host::TFalha);
+    EXPECT_THROW(host::ZTConnection().GetSQLConnection().ExecuteDirect("DELETE FROM CO01_CTBORCADAVLR"), base::TFalha);
     ASSERT_EQ(2U, interacao.mensagens.size());
     EXPECT_NE(std::string::npos, interacao.mensagens[1].find("fechado"));
     const std::string frase = "Não foi possível remover o valor realizado da projeção.\r\rErro: ";

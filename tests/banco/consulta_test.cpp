@@ -1,8 +1,8 @@
 // The query module and the window on a real engine: which projections answer a selection, and what is told of them.
 #include "banco/ConsultaFixture.h"
+#include "base/Falhas.h"
 #include "consultation/Un04618Form.h"
 #include "host/DbManager.h"
-#include "host/Falhas.h"
 #include "suite/firebird/Cursor.h"
 #include "suite/firebird/Statement.h"
 #include "suite/program/Login.h"
@@ -12,7 +12,7 @@
 
 using apoio::Dia;
 using apoio::Lista;
-using host::TDataHora;
+using base::TDataHora;
 using pct04618::TDM04618;
 
 namespace {
@@ -100,8 +100,8 @@ TEST_F(Consulta, SoOAnoInteiroNaoRespondeAoAnoInteiro) {
 TEST_F(Consulta, MaisDeDozeAnosEmColunasEhRecusado) {
     Projecao("1 1 - 0 01/01/2012 31/12/2012");
     EXPECT_EQ("1", Buscar(3, "01/01/2012", "31/12/2024")) << "twelve completed years";
-    EXPECT_THROW(Buscar(3, "01/01/2012", "31/01/2025"), host::Abort);
-    EXPECT_THROW(Buscar(4, "01/01/2012", "31/01/2025"), host::Abort);
+    EXPECT_THROW(Buscar(3, "01/01/2012", "31/01/2025"), base::Abort);
+    EXPECT_THROW(Buscar(4, "01/01/2012", "31/01/2025"), base::Abort);
     EXPECT_EQ("1", Buscar(5, "01/01/2012", "31/01/2025"));
     ASSERT_EQ(2U, interacao.mensagens.size());
     EXPECT_EQ("Para a opção 3 - Detalhando períodos em colunas ou 4 - Demonstrando de forma matricial com períodos em "
@@ -259,7 +259,7 @@ TEST_F(Consulta, EventosDaoFormatosEChaves) {
         EXPECT_EQ(",0.000000|,0.00|,0.0000|,0.00|,0.00|,0.00|,0.0000|,0.00||", formatos);
     }
     d.CdsMostraCtbOrcMensal.CommandText = "SELECT 1 AS VAL1 FROM RDB$DATABASE";
-    EXPECT_THROW(d.CdsMostraCtbOrcMensal.Open(), host::TFalha) << "25 of the 26 formatted fields are missing";
+    EXPECT_THROW(d.CdsMostraCtbOrcMensal.Open(), base::TFalha) << "25 of the 26 formatted fields are missing";
     EXPECT_FALSE(d.CdsMostraCtbOrcMensal.Active());
 
     d.CdsCtbOrcadaVlr.Open();
@@ -272,14 +272,14 @@ TEST_F(Consulta, EventosDaoFormatosEChaves) {
     d.CdsCtbOrcadaVlr.Insert();
     const auto chave = d.CdsCtbOrcadaVlr.GetInt64FieldValue("IDCTBORCADAVLR");
     EXPECT_EQ(chave + 1, host::ZTConnection().BuscarProximoID("CO01_CTBORCADAVLR"));
-    d.CdsCtbOrcadaVlr.FieldByName("IDCTBORCADAINF").Atribuir(host::Inteiro(1));
-    d.CdsCtbOrcadaVlr.FieldByName("IDPLANO").Atribuir(host::Inteiro(102));
-    d.CdsCtbOrcadaVlr.FieldByName("VLRREALIZADO").Atribuir(host::TDecimal{-3012, 2});
+    d.CdsCtbOrcadaVlr.FieldByName("IDCTBORCADAINF").Atribuir(base::Inteiro(1));
+    d.CdsCtbOrcadaVlr.FieldByName("IDPLANO").Atribuir(base::Inteiro(102));
+    d.CdsCtbOrcadaVlr.FieldByName("VLRREALIZADO").Atribuir(base::TDecimal{-3012, 2});
     d.CdsCtbOrcadaVlr.Post();
-    const std::vector<host::TValor> linha{host::Nulo, host::Inteiro(101)};
+    const std::vector<base::TValor> linha{base::Nulo, base::Inteiro(101)};
     ASSERT_TRUE(d.CdsCtbOrcadaVlr.FindKey(linha));
     d.CdsCtbOrcadaVlr.Edit();
-    d.CdsCtbOrcadaVlr.FieldByName("VLRREALIZADO").Atribuir(host::Inteiro(7));
+    d.CdsCtbOrcadaVlr.FieldByName("VLRREALIZADO").Atribuir(base::Inteiro(7));
     d.CdsCtbOrcadaVlr.Post();
     host::TZTClientDataSet* const alterados[] = {&d.CdsCtbOrcadaVlr};
     EXPECT_EQ(Lista{}, host::ZTConnection().AplicarAlteracoesNoBD(alterados));
@@ -293,7 +293,7 @@ TEST_F(Consulta, CancelarNoProgressoContaFechaEInterrompe) {
     progresso.MostrarBarraProgresso();
     d.IncrementarBarraProgresso(1, progresso);
     interacao.cancelado = true;
-    EXPECT_THROW(d.IncrementarBarraProgresso(1, progresso), host::Abort);
+    EXPECT_THROW(d.IncrementarBarraProgresso(1, progresso), base::Abort);
     EXPECT_EQ(Lista{"Processo Cancelado."}, interacao.mensagens);
     EXPECT_EQ(host::TEventoProgresso::TTipo::Fechar, interacao.progresso.back().Tipo);
 }
@@ -320,7 +320,7 @@ TEST_F(Consulta, JanelaComecaComOQueAEmpresaLogadaDiz) {
     EXPECT_TRUE(logada.BuscarEmpresaUtilizaCtbPorCentroCusto(2));
     copia.executar("DELETE FROM CO01_CENTROCUSTO;");
     EXPECT_FALSE(logada.BuscarEmpresaUtilizaCtbPorCentroCusto(2));
-    EXPECT_THROW(suite::program::Login({10, 9, {}, {}}), host::TFalha) << "no establishment 9";
+    EXPECT_THROW(suite::program::Login({10, 9, {}, {}}), base::TFalha) << "no establishment 9";
 }
 
 TEST(Instrucoes, CadaFormaPreparaEDevolveAsColunasCombinadas) {

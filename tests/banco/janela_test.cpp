@@ -1,7 +1,7 @@
 // The consultation window as a user meets it: what is in view after each way through the selection dialog.
 #include "banco/ConsultaFixture.h"
+#include "base/Falhas.h"
 #include "consultation/Un04618Form.h"
-#include "host/Falhas.h"
 #include "suite/program/LayoutStore.h"
 #include "suite/program/Login.h"
 #include "suite/script/FormDriver.h"
@@ -251,7 +251,7 @@ TEST_F(Janela, DepoisDeAtualizarORealizadoNinguemEhPerguntado) {
 
     d.FDataFim = Dia("15/04/2024");
     d.FDetalharSelecao = 1;
-    EXPECT_THROW(janela->ActSelecionarExecute(atualizar), host::Abort);
+    EXPECT_THROW(janela->ActSelecionarExecute(atualizar), base::Abort);
     EXPECT_EQ(Balanco, EmVista());
     EXPECT_EQ("Visualizando projeção orçamentária de 01/04/2024 a 30/04/2024", Titulo()) << "all as it was";
     EXPECT_TRUE(Dados("CdsMostraCtbOrcada").Active());
@@ -261,7 +261,7 @@ TEST_F(Janela, ConsultaQueFalhaNaoDeixaOTituloDaAnterior) {
     copia.executar("ALTER TABLE CO01_PLANOCFG DROP INFORMACAO1;"); // which only the balance statement reads
     Consultar("01/01/2024", "31/01/2024", "3", "BOR");
     ASSERT_EQ(PeriodosEmVista, EmVista());
-    EXPECT_THROW(Consultar("01/01/2024", "31/01/2024", "1"), host::TFalhaBanco);
+    EXPECT_THROW(Consultar("01/01/2024", "31/01/2024", "1"), base::TFalhaBanco);
     EXPECT_EQ(Balanco, EmVista());
     EXPECT_EQ(Convite, Titulo());
     EXPECT_FALSE(Dados("CdsMostraCtbOrcada").Active());

@@ -1,6 +1,6 @@
 // Mode 3 on a real engine: which columns arise, and what stands in them.
 #include "banco/PeriodosFixture.h"
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 
 using apoio::Campos;
 using apoio::Lista;
@@ -183,6 +183,6 @@ TEST_F(Periodos, ConjuntoFicaComOTextoEOsFormatos) {
             EXPECT_EQ(",0.00", d.CdsMostraCtbOrcMensal.FieldByName(campo).FormatoExibicao) << campo;
     }
     EXPECT_NE(std::string::npos, d.CdsMostraCtbOrcMensal.CommandText.find("EXECUTE BLOCK"));
-    EXPECT_THROW(Abrir("x", {"TOTAL"}), host::TFalhaBanco);
+    EXPECT_THROW(Abrir("x", {"TOTAL"}), base::TFalhaBanco);
     EXPECT_FALSE(d.CdsMostraCtbOrcMensal.Active()) << "the earlier result is gone before the text is made";
 }

@@ -2,8 +2,8 @@
 // reaches the query module. Companies 1 (heads the holding), 2 and 3.
 #include "apoio/Bases.h"
 #include "apoio/Hospedeiro.h"
+#include "base/Falhas.h"
 #include "host/DbManager.h"
-#include "host/Falhas.h"
 #include "selection/DefinicoesLookups.h"
 #include "selection/Un04618FormSelecao.h"
 #include "suite/program/Login.h"
@@ -268,7 +268,7 @@ TEST_F(Selecao, CondicoesTemUmTermoPorRegistro) {
     EXPECT_EQ("", pct04618::BuscarIDsMultiselecao(centros, "C = ", "IDCENTROCUSTO", "103", "CODIGO"));
     Definir("LkpCentroCusto", "{}");
     EXPECT_EQ("", pct04618::BuscarIDsMultiselecao(centros, "C = ", "IDCENTROCUSTO"));
-    EXPECT_THROW(Definir("LkpCentroCusto", "{1,x}"), host::TFalha);
+    EXPECT_THROW(Definir("LkpCentroCusto", "{1,x}"), base::TFalha);
 }
 
 TEST_F(Selecao, UmaContaTrazAsDeBaixoEASuaClassificacao) {
@@ -412,14 +412,14 @@ TEST_F(Selecao, TeclasEPesquisaDePeriodos) {
 }
 
 TEST_F(Selecao, PreenchidaDeForaConfirmaSemSerMostrada) {
-    form->AtribuirDadosSelecao(0, *host::TDataHora::De(2024, 1, 1), *host::TDataHora::De(2024, 3, 31), 0, 1, 2);
+    form->AtribuirDadosSelecao(0, *base::TDataHora::De(2024, 1, 1), *base::TDataHora::De(2024, 3, 31), 0, 1, 2);
     form->ActOKExecute(nullptr);
     EXPECT_FALSE(form->Cancelou());
     EXPECT_EQ(2, dm->FCenario);
     EXPECT_EQ(3, dm->FInformacoesCtbOrcadaInf.QtdePeriodos);
     EXPECT_TRUE(dm->CdsMostraCtbOrcada.Active());
-    form->AtribuirDadosSelecao(0, *host::TDataHora::De(2012, 1, 1), *host::TDataHora::De(2025, 1, 31), 1, 3, 0);
-    EXPECT_THROW(form->ActOKExecute(nullptr), host::Abort) << "more than twelve years in columns";
+    form->AtribuirDadosSelecao(0, *base::TDataHora::De(2012, 1, 1), *base::TDataHora::De(2025, 1, 31), 1, 3, 0);
+    EXPECT_THROW(form->ActOKExecute(nullptr), base::Abort) << "more than twelve years in columns";
     EXPECT_FALSE(form->Cancelou());
     EXPECT_FALSE(dm->CdsMostraCtbOrcada.Active());
 }

@@ -1,7 +1,7 @@
 // The data services on a real engine, embedded and through a server.
 #include "apoio/Bases.h"
+#include "base/Falhas.h"
 #include "host/DataSet.h"
-#include "host/Falhas.h"
 #include "suite/firebird/Cursor.h"
 #include "suite/firebird/Error.h"
 #include "suite/firebird/Statement.h"
@@ -19,16 +19,16 @@
 
 using apoio::Base;
 using apoio::Copia;
-using host::Inteiro;
-using host::TDecimal;
-using host::TFalha;
-using host::TFalhaBanco;
-using host::TTipoFalhaBanco;
+using base::Inteiro;
+using base::TDecimal;
+using base::TFalha;
+using base::TFalhaBanco;
+using base::TTipoFalhaBanco;
 using namespace suite::firebird;
 
 namespace {
 
-host::TValor Valor(host::TZTConnection& conexao, const std::string& texto) {
+base::TValor Valor(host::TZTConnection& conexao, const std::string& texto) {
     host::TZTSQLQuery consulta(conexao.GetSQLConnection(), "teste");
     consulta.SQL = texto;
     consulta.Open();
@@ -184,7 +184,7 @@ TEST(Servicos, ParametrosVoltamIguaisOuSaoRecusadosComONomeDoCampo) {
                       "INSERT INTO CO01_CTBORCADAVLR (IDCTBORCADAINF, INDICEATBASE, VLRBASE, IDPLANO) VALUES (?,?,?,?)",
                       "inclusão");
     incluir.nameParameters({"IDCTBORCADAINF", "INDICEATBASE", "VLRBASE", "IDPLANO"});
-    const std::vector<host::TValor> boa{Inteiro(1), TDecimal{45, 3}, std::string("-12.345"), host::Nulo};
+    const std::vector<base::TValor> boa{Inteiro(1), TDecimal{45, 3}, std::string("-12.345"), base::Nulo};
     incluir.execute(transacao, boa);
     const auto linha = [&](const char* coluna) {
         return TextoDe(queryValue(transacao, std::string("SELECT ") + coluna + " FROM CO01_CTBORCADAVLR", "leitura"));
@@ -193,7 +193,7 @@ TEST(Servicos, ParametrosVoltamIguaisOuSaoRecusadosComONomeDoCampo) {
     EXPECT_EQ("-12.35", linha("VLRBASE"));
     EXPECT_EQ("", linha("IDPLANO"));
     EXPECT_EQ("1", linha("IDCTBORCADAVLR")) << "the trigger fills the key";
-    for (const auto& [campo, valor] : {std::pair<std::size_t, host::TValor>{2, std::string("doze")},
+    for (const auto& [campo, valor] : {std::pair<std::size_t, base::TValor>{2, std::string("doze")},
                                        {0, TDecimal{INT64_MAX, 0}},
                                        {1, TDecimal{INT64_MAX, 0}}}) {
         auto ruim = boa;
@@ -213,7 +213,7 @@ TEST(Servicos, ParametrosVoltamIguaisOuSaoRecusadosComONomeDoCampo) {
     Statement nome(transacao, "INSERT INTO US09_USUARIO (IDUSUARIO, CODIGO, NOME) VALUES (1, 1, ?)", "inclusão");
     nome.nameParameters({"US09_USUARIO.NOME"});
     for (const auto& texto : {std::string("10 €"), std::string("\xC3"), std::string(101, 'x')}) {
-        const std::vector<host::TValor> valor{texto};
+        const std::vector<base::TValor> valor{texto};
         try {
             nome.execute(transacao, valor);
             FAIL() << texto;

@@ -22,8 +22,8 @@ using apoio::Gerar;
 using apoio::Lista;
 using apoio::Rodada;
 using apoio::Totalizacao;
+using base::TTipoFalhaBanco;
 using host::TEventoProgresso;
-using host::TTipoFalhaBanco;
 using namespace suite::firebird;
 
 namespace {
@@ -238,7 +238,7 @@ TEST_F(Totalizacao, FalhaEmQualquerChamadaDeixaCadaProjecaoInteira) {
                     return; // a lost connection stays lost
                 if (chamadas == n)
                     aqui = nome;
-                throw host::TFalhaBanco(tipo, "Falha de teste.", "HY000", {}, "", "");
+                throw base::TFalhaBanco(tipo, "Falha de teste.", "HY000", {}, "", "");
             };
             const auto rodada = Gerar(*conexao, {}, [&] {
                 beforeCall = {};
@@ -327,7 +327,7 @@ TEST_F(Totalizacao, QuemEncontraAProjecaoReservadaEsperaESabePorQuem) {
                         ") está gravando os mesmos dados. Aguarde um instante e tente novamente."},
                   rodada.mensagens);
         ASSERT_TRUE(rodada.causa) << "a lock is a failure of the database as well";
-        EXPECT_EQ(host::TTipoFalhaBanco::Bloqueio, rodada.causa->Tipo());
+        EXPECT_EQ(base::TTipoFalhaBanco::Bloqueio, rodada.causa->Tipo());
         EXPECT_EQ(Prontas(1), Todas(*conexao));
     }
     Restaurar(*conexao);

@@ -1,9 +1,9 @@
 #include "apoio/Bases.h"
-#include "suite/program/DataChecks.h"
+#include "suite/verify/DataChecks.h"
 
 #include <gtest/gtest.h>
 
-using namespace suite::program;
+using namespace suite::verify;
 using suite::firebird::Transaction;
 using suite::firebird::TransactionMode;
 

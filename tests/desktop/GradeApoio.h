@@ -15,7 +15,7 @@ using host::TTipoColuna;
 // A dataset whose rows a function makes, one at a time.
 class Dados : public host::TDataSet {
   public:
-    using Linha = std::vector<host::TValor>;
+    using Linha = std::vector<base::TValor>;
     using host::TDataSet::TDataSet;
     std::vector<host::TDescricaoColuna> colunas;
     std::size_t quantas = 0;
@@ -77,29 +77,29 @@ struct GradeBalanco {
     static Dados::Linha linha(const std::string& classe, int conta, int filial, const std::string& nome,
                               std::int64_t base, std::int64_t orcado, std::int64_t realizado, bool receita,
                               bool titulo) {
-        const auto milhoes = [](std::int64_t valor) { return host::TDecimal{valor, 6}; };
+        const auto milhoes = [](std::int64_t valor) { return base::TDecimal{valor, 6}; };
         const std::int64_t variacao = orcado < 1'000'000 ? 0 : (realizado - orcado) / (orcado / 1'000'000) * 100;
         return {classe,
-                host::Inteiro(conta),
-                host::Inteiro(0),
-                host::Inteiro(conta % 7 == 0 ? 12 : 0),
+                base::Inteiro(conta),
+                base::Inteiro(0),
+                base::Inteiro(conta % 7 == 0 ? 12 : 0),
                 std::string("Administração"),
-                host::Inteiro(filial),
+                base::Inteiro(filial),
                 nome,
-                host::Inteiro(0),
+                base::Inteiro(0),
                 milhoes(0),
                 milhoes(base),
-                host::Inteiro(1),
-                host::Inteiro(0),
-                host::TDecimal{5 * 10'000, 4},
+                base::Inteiro(1),
+                base::Inteiro(0),
+                base::TDecimal{5 * 10'000, 4},
                 milhoes(orcado),
                 milhoes(realizado),
                 milhoes(realizado - orcado),
                 milhoes(variacao + 100'000'000),
                 milhoes(receita ? variacao : -variacao),
                 std::string(receita ? "Receita" : "Despesa"),
-                host::Inteiro(titulo ? 1 : 2),
-                host::Inteiro(conta)};
+                base::Inteiro(titulo ? 1 : 2),
+                base::Inteiro(conta)};
     }
 
     // A chart of accounts of a bakery, in as many establishments as it takes.
@@ -159,8 +159,8 @@ struct GradePeriodos {
         grade.RegraDaCelula = [](const host::TCelula& celula) {
             pct04618::TCelulaPeriodos dela;
             dela.LinhaVlrBase = dela.LinhaVlrOrcado = dela.LinhaVlrRealizado = true;
-            dela.TipoLinha = host::TDecimal::De(TextoDe(celula.Valor("TIPOLINHA"))) == host::TDecimal{1, 0}   ? 1
-                             : host::TDecimal::De(TextoDe(celula.Valor("TIPOLINHA"))) == host::TDecimal{2, 0} ? 2
+            dela.TipoLinha = base::TDecimal::De(TextoDe(celula.Valor("TIPOLINHA"))) == base::TDecimal{1, 0}   ? 1
+                             : base::TDecimal::De(TextoDe(celula.Valor("TIPOLINHA"))) == base::TDecimal{2, 0} ? 2
                                                                                                               : 3;
             dela.CtaTitulo = TextoDe(celula.Valor("CTATITULO")) == "1" ? 1 : 2;
             dela.IDPlano = TextoDe(celula.Valor("IDPLANO"));
@@ -183,28 +183,28 @@ struct GradePeriodos {
             const auto conta = static_cast<int>(i / 3);
             const auto tipo = static_cast<int>(i % 3) + 1;
             Dados::Linha linha{"3.01." + std::to_string(100 + conta),
-                               host::Inteiro(1000 + conta),
-                               host::Inteiro(0),
-                               host::Inteiro(0),
-                               host::Inteiro(1),
+                               base::Inteiro(1000 + conta),
+                               base::Inteiro(0),
+                               base::Inteiro(0),
+                               base::Inteiro(1),
                                std::string(nomes[conta % 4]),
                                std::string(tipo == 1   ? "2024 - B"
                                            : tipo == 2 ? "2024 - O"
                                                        : "2024 - R"),
-                               host::Inteiro(conta % 4 == 1 ? 1 : 2),
-                               host::Inteiro(tipo),
-                               totalizador && conta % 4 == 0 ? host::Nulo : host::Inteiro(conta),
-                               host::TDecimal{0, 2},
-                               host::TDecimal{1'000'000, 4}};
+                               base::Inteiro(conta % 4 == 1 ? 1 : 2),
+                               base::Inteiro(tipo),
+                               totalizador && conta % 4 == 0 ? base::Nulo : base::Inteiro(conta),
+                               base::TDecimal{0, 2},
+                               base::TDecimal{1'000'000, 4}};
             std::int64_t total = 0;
             for (int mes = 1; mes <= 12; ++mes) {
                 const auto valor = (contas - conta) * 10'000 + tipo * 100 + mes;
                 total += mes <= meses ? valor : 0;
-                linha.push_back(mes <= meses ? host::TValor(host::TDecimal{valor, 2}) : host::Nulo);
-                linha.push_back(mes <= meses ? host::TValor(host::TDecimal{83'333, 4}) : host::Nulo);
+                linha.push_back(mes <= meses ? base::TValor(base::TDecimal{valor, 2}) : base::Nulo);
+                linha.push_back(mes <= meses ? base::TValor(base::TDecimal{83'333, 4}) : base::Nulo);
                 linha.push_back(std::string(mes <= meses ? nomesDosMeses[mes - 1] : ""));
             }
-            linha[10] = host::TDecimal{total, 2};
+            linha[10] = base::TDecimal{total, 2};
             return linha;
         };
         dados.Open();

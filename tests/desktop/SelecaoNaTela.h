@@ -4,8 +4,8 @@
 #include "apoio/Hospedeiro.h"
 #include "desktop/Aplicacao.h"
 #include "selection/Un04618FormSelecao.h"
-#include "suite/desktop/DialogWindow.h"
-#include "suite/desktop/LookupWindow.h"
+#include "suite/desktop/form/DialogWindow.h"
+#include "suite/desktop/form/LookupWindow.h"
 #include "suite/program/Login.h"
 
 #include <gtest/gtest.h>

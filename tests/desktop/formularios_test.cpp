@@ -1,12 +1,12 @@
 // Dialogs on screen: each kind of control follows its model and gives back what the user does, fields are left once and
 // in order, and a whole selection is made with the keyboard alone.
+#include "base/Falhas.h"
 #include "desktop/SelecaoNaTela.h"
 #include "host/Dialogos.h"
-#include "host/Falhas.h"
 #include "host/Utilidades.h"
-#include "suite/desktop/DateEdit.h"
-#include "suite/desktop/ElidedLabel.h"
-#include "suite/desktop/LookupEdit.h"
+#include "suite/desktop/form/DateEdit.h"
+#include "suite/desktop/form/LookupEdit.h"
+#include "suite/desktop/look/ElidedLabel.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -147,9 +147,9 @@ TEST_F(NaTela, FalhasESilenciosDasRegras) {
     Lista falhas;
     janela->binding().onFailure = [&](const std::exception& falha) { falhas.emplace_back(falha.what()); };
     auto& caixa = widget<QCheckBox>("ChkUma");
-    form.ChkUma.OnClick = [] { throw host::TFalha("O banco caiu."); };
+    form.ChkUma.OnClick = [] { throw base::TFalha("O banco caiu."); };
     caixa.click();
-    form.ChkUma.OnClick = [] { throw host::Abort(); };
+    form.ChkUma.OnClick = [] { throw base::Abort(); };
     caixa.click();
     EXPECT_EQ(Lista{"O banco caiu."}, falhas) << "an Abort has told the user already";
     janela.reset();
@@ -192,7 +192,7 @@ TEST_F(NaTela, DatasSeDigitamSoComAlgarismos) {
     EXPECT_EQ("31/02/2024", digitar("31022024")) << "a wrong date stays for the rules to refuse";
     tecla("DeData", Qt::Key_Tab);
     EXPECT_EQ("31/02/2024", form.DeData.Texto());
-    form.DeData.SetDate(*host::TDataHora::De(2025, 5, 1));
+    form.DeData.SetDate(*base::TDataHora::De(2025, 5, 1));
     EXPECT_EQ("01/05/2025", data.shown().toStdString());
 
     tecla("DeData", Qt::Key_F4);

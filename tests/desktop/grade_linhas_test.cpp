@@ -1,8 +1,8 @@
 // What a grid shows of a dataset, before any window: order, groups, sums, filter, colours.
 #include "desktop/GradeApoio.h"
-#include "suite/desktop/CellColours.h"
-#include "suite/desktop/ColumnMatcher.h"
-#include "suite/desktop/GridModel.h"
+#include "suite/desktop/grid/ColumnMatcher.h"
+#include "suite/desktop/grid/GridModel.h"
+#include "suite/desktop/look/CellColours.h"
 
 #include <gtest/gtest.h>
 
@@ -19,8 +19,8 @@ namespace {
 
 using Posicoes = std::vector<std::uint32_t>;
 
-host::TValor d(std::int64_t unidades, int escala = 2) { return host::TDecimal{unidades, escala}; }
-host::TValor t(const char* valor) { return std::string(valor); }
+base::TValor d(std::int64_t unidades, int escala = 2) { return base::TDecimal{unidades, escala}; }
+base::TValor t(const char* valor) { return std::string(valor); }
 
 // NOME, VALOR, FILIAL, CTATITULO; then what a test adds.
 struct Conjunto {
@@ -54,13 +54,13 @@ struct Conjunto {
     }
 };
 
-Dados::Linha linha(host::TValor nome, host::TValor valor, int filial = 1, int titulo = 2) {
-    return {std::move(nome), std::move(valor), host::Inteiro(filial), host::Inteiro(titulo)};
+Dados::Linha linha(base::TValor nome, base::TValor valor, int filial = 1, int titulo = 2) {
+    return {std::move(nome), std::move(valor), base::Inteiro(filial), base::Inteiro(titulo)};
 }
 
 TEST(GradeLinhas, NumeroVaiPeloValorETextoPelaLinguaComNuloPrimeiro) {
-    Conjunto c({}, {linha(t("Zinco"), d(900)), linha(t("água"), d(-1000)), linha(host::Nulo, d(10000)),
-                    linha(t("Abacate"), host::Nulo), linha(t("azul"), d(900)), linha(t("Água"), d(0))});
+    Conjunto c({}, {linha(t("Zinco"), d(900)), linha(t("água"), d(-1000)), linha(base::Nulo, d(10000)),
+                    linha(t("Abacate"), base::Nulo), linha(t("azul"), d(900)), linha(t("Água"), d(0))});
     EXPECT_EQ((Posicoes{3, 1, 5, 0, 4, 2}), c.ordem({{1, false}})) << "and what is equal stays in order";
     EXPECT_EQ((Posicoes{2, 0, 4, 5, 1, 3}), c.ordem({{1, true}}));
     EXPECT_EQ((Posicoes{2, 3, 1, 5, 4, 0}), c.ordem({{0, false}}));
@@ -101,18 +101,18 @@ TEST(GradeLinhas, SomaEhExataENaoContaTitulo) {
     std::vector<Dados::Linha> valores{linha(t("título"), d(9'999'999'999), 1, 1)};
     for (int i = 0; i < 1000; ++i)
         valores.push_back(linha(t("x"), i % 2 == 0 ? d(9'007'199'254'740'993) : d(-9'007'199'254'740'990)));
-    valores.push_back(linha(t("título"), host::Nulo, 1, 1));
+    valores.push_back(linha(t("título"), base::Nulo, 1, 1));
     Conjunto c({}, valores);
     c.ordem({});
     EXPECT_EQ("15.00", c.soma(c.linhas.totalSet()));
     EXPECT_TRUE(c.linhas.sums().onlyAnalytic());
     EXPECT_FALSE(c.linhas.sums().sum(c.linhas.totalSet(), 2)) << "an establishment is no amount";
 
-    Conjunto semMarca({}, {linha(t("a"), d(100)), Dados::Linha{t("a"), d(7), host::Inteiro(1), host::Nulo}});
+    Conjunto semMarca({}, {linha(t("a"), d(100)), Dados::Linha{t("a"), d(7), base::Inteiro(1), base::Nulo}});
     semMarca.ordem({});
     EXPECT_EQ("1.00", semMarca.soma(semMarca.linhas.totalSet())) << "neither title nor analytic";
 
-    Conjunto comFalta({}, {linha(t("a"), d(100)), linha(t("a"), host::Nulo), linha(t("b"), d(3))});
+    Conjunto comFalta({}, {linha(t("a"), d(100)), linha(t("a"), base::Nulo), linha(t("b"), d(3))});
     comFalta.ordem({}, {0});
     EXPECT_EQ("nenhuma", comFalta.soma(0)) << "an amount beyond what its column holds is missing";
     EXPECT_EQ("0.03", comFalta.soma(1));
@@ -126,13 +126,13 @@ TEST(GradeLinhas, SomaEhExataENaoContaTitulo) {
 }
 
 TEST(GradeLinhas, NadaEhContadoDuasVezes) {
-    const auto linhaDe = [](int filial, int tipo, host::TValor conta) {
-        return Dados::Linha{t("x"), d(100), host::Inteiro(filial), host::Inteiro(2), host::Inteiro(tipo), conta};
+    const auto linhaDe = [](int filial, int tipo, base::TValor conta) {
+        return Dados::Linha{t("x"), d(100), base::Inteiro(filial), base::Inteiro(2), base::Inteiro(tipo), conta};
     };
-    const auto conta = host::Inteiro(7);
+    const auto conta = base::Inteiro(7);
     Conjunto c({numero("TIPOLINHA"), numero("IDPLANO")},
                {linhaDe(1, 1, conta), linhaDe(1, 2, conta), linhaDe(2, 3, conta), linhaDe(2, 3, conta),
-                linhaDe(3, 3, conta), linhaDe(3, 3, host::Nulo)});
+                linhaDe(3, 3, conta), linhaDe(3, 3, base::Nulo)});
     c.ordem({}, {2});
     EXPECT_EQ("nenhuma", c.soma(0)) << "base and budget";
     EXPECT_EQ("2.00", c.soma(1)) << "actual values alone";
@@ -148,7 +148,7 @@ TEST(GradeLinhas, NadaEhContadoDuasVezes) {
 
 TEST(GradeLinhas, LinhasDeUmaContaFicamJuntas) {
     const auto de = [](const char* nome, int valor, int tipo) {
-        return Dados::Linha{t(nome), d(valor), host::Inteiro(1), host::Inteiro(2), host::Inteiro(tipo)};
+        return Dados::Linha{t(nome), d(valor), base::Inteiro(1), base::Inteiro(2), base::Inteiro(tipo)};
     };
     Conjunto c({numero("TIPOLINHA")}, {de("a", 5, 1), de("a", 1, 2), de("a", 9, 3), de("b", 3, 1), de("b", 8, 3),
                                        de("b", 2, 1), de("b", 7, 2)});
@@ -162,7 +162,7 @@ TEST(GradeLinhas, LinhasDeUmaContaFicamJuntas) {
 }
 
 TEST(GradeFiltro, EncontraOQueSeDigita) {
-    Conjunto c({}, {linha(t("Água e Esgoto"), d(123456)), linha(t("agua"), d(-1000)), linha(host::Nulo, host::Nulo),
+    Conjunto c({}, {linha(t("Água e Esgoto"), d(123456)), linha(t("agua"), d(-1000)), linha(base::Nulo, base::Nulo),
                     linha(t("Férias [13º]"), d(1005)), linha(t("=x"), d(0))});
     const struct {
         std::size_t coluna;

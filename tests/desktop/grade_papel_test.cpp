@@ -1,10 +1,10 @@
 // The grid's picture on paper says what the screen shows.
+#include "base/Falhas.h"
 #include "desktop/Aplicacao.h"
 #include "desktop/GradeApoio.h"
-#include "host/Falhas.h"
-#include "suite/desktop/GridPane.h"
-#include "suite/desktop/GridPdf.h"
-#include "suite/desktop/Text.h"
+#include "suite/desktop/grid/GridPane.h"
+#include "suite/desktop/grid/GridPdf.h"
+#include "suite/desktop/look/Text.h"
 
 #include <gtest/gtest.h>
 
@@ -50,10 +50,10 @@ TEST(GradeNoPapel, FiguraEmPdfTemOQueATelaMostra) {
     EXPECT_EQ(texto.count("Filial: "), 2) << "the groups";
     EXPECT_EQ(texto.count("Energia elétrica"), 12);
     EXPECT_TRUE(texto.contains("Total (contas analíticas)"));
-    EXPECT_THROW(writeGridPdf(painel, pasta.filePath("nada/figura.pdf"), titulo), host::TFalha);
+    EXPECT_THROW(writeGridPdf(painel, pasta.filePath("nada/figura.pdf"), titulo), base::TFalha);
     balanco.dados.Close();
     balanco.encher(20'001, 60);
-    EXPECT_THROW(writeGridPdf(painel, arquivo, titulo), host::TFalha) << "more than anyone leafs through";
+    EXPECT_THROW(writeGridPdf(painel, arquivo, titulo), base::TFalha) << "more than anyone leafs through";
     EXPECT_EQ(lerPdf(arquivo), texto) << "the one that was there stays";
 }
 

@@ -1,10 +1,10 @@
 // The chart beside the grid: what it shows of which line, and that screen and picture show it.
+#include "base/Falhas.h"
 #include "desktop/Aplicacao.h"
 #include "desktop/GradeApoio.h"
-#include "host/Falhas.h"
-#include "suite/desktop/ChartPainter.h"
-#include "suite/desktop/ChartPane.h"
-#include "suite/desktop/GridPane.h"
+#include "suite/desktop/chart/ChartPainter.h"
+#include "suite/desktop/chart/ChartPane.h"
+#include "suite/desktop/grid/GridPane.h"
 
 #include <gtest/gtest.h>
 
@@ -91,8 +91,8 @@ TEST(Grafico, SegueAGradeEViraImagem) {
     grafico.save(arquivo);
     const auto vazia = QImage(arquivo);
     ASSERT_FALSE(vazia.isNull());
-    EXPECT_THROW(grafico.save(pasta.filePath("nada/grafico.png")), host::TFalha);
-    EXPECT_THROW(grafico.save(pasta.filePath("grafico.xyz")), host::TFalha);
+    EXPECT_THROW(grafico.save(pasta.filePath("nada/grafico.png")), base::TFalha);
+    EXPECT_THROW(grafico.save(pasta.filePath("grafico.xyz")), base::TFalha);
     grafico.setPane(nullptr);
     EXPECT_TRUE(grafico.data().categories.empty());
 }

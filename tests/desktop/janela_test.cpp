@@ -1,19 +1,19 @@
 // The shell: messages, progress, failures, and the window that shows what its form says.
 #include "apoio/Bases.h"
+#include "base/Falhas.h"
 #include "consultation/Un04618Form.h"
 #include "desktop/Aplicacao.h"
 #include "host/Dialogos.h"
-#include "host/Falhas.h"
 #include "host/Registro.h"
 #include "host/Servicos.h"
-#include "suite/desktop/DesktopInteraction.h"
-#include "suite/desktop/DialogWindow.h"
-#include "suite/desktop/Failures.h"
-#include "suite/desktop/GridPane.h"
-#include "suite/desktop/GridView.h"
-#include "suite/desktop/MainWindow.h"
-#include "suite/desktop/MessageDialog.h"
-#include "suite/desktop/StartDialog.h"
+#include "suite/desktop/form/DialogWindow.h"
+#include "suite/desktop/grid/GridPane.h"
+#include "suite/desktop/grid/GridView.h"
+#include "suite/desktop/shell/DesktopInteraction.h"
+#include "suite/desktop/shell/Failures.h"
+#include "suite/desktop/shell/MainWindow.h"
+#include "suite/desktop/shell/MessageDialog.h"
+#include "suite/desktop/shell/StartDialog.h"
 #include "suite/program/DesktopCommand.h"
 
 #include <gtest/gtest.h>
@@ -37,8 +37,8 @@
 namespace {
 
 using namespace suite::desktop;
-using host::TFalhaBanco;
-using host::TTipoFalhaBanco;
+using base::TFalhaBanco;
+using base::TTipoFalhaBanco;
 
 constexpr const char* Convite = "Clique no botão \"Selecionar\" para escolher as formas de busca das informações.";
 
@@ -226,9 +226,9 @@ TEST_F(Casca, FalhaGuardaOsDetalhesDobrados) {
                       comando, [] { FAIL() << "the connection is not lost"; }, nullptr);
               });
     comModais({[](QDialog& d) { EXPECT_EQ("Data inválida.", parte<QLabel>(d, "texto").text().toStdString()); }},
-              [] { showFailure(host::TFalha("Data inválida."), {}, nullptr); });
+              [] { showFailure(base::TFalha("Data inválida."), {}, nullptr); });
     comModais({}, [] {
-        showFailure(host::Abort(), {}, nullptr);
+        showFailure(base::Abort(), {}, nullptr);
         showFailure(TFalhaBanco(TTipoFalhaBanco::Cancelado, "Cancelada.", "HY008", {}, {}, {}), {}, nullptr);
     });
 }
@@ -337,7 +337,7 @@ class JanelaDoModulo : public Casca {
             const auto definir = [&](const char* nome, const std::string& valor) {
                 auto& controle = form.Controle(nome);
                 if (auto* data = dynamic_cast<host::TZTDateEdit*>(&controle))
-                    data->SetDate(*host::TDataHora::DeTexto(valor));
+                    data->SetDate(*base::TDataHora::DeTexto(valor));
                 else
                     dynamic_cast<host::TZTComboBox&>(controle).SetValorSelecionado(valor);
                 form.SairDe(controle);
@@ -405,7 +405,7 @@ TEST_F(JanelaDoModulo, MostraOQueOModeloTemEmVista) {
 
     usuario.preencher = [this](host::TFormZTTandorPadraoResult& form) {
         EXPECT_TRUE(form.Aberto());
-        dynamic_cast<host::TZTDateEdit&>(form.Controle("DeDataFim")).SetDate(*host::TDataHora::DeTexto("30/04/2024"));
+        dynamic_cast<host::TZTDateEdit&>(form.Controle("DeDataFim")).SetDate(*base::TDataHora::DeTexto("30/04/2024"));
     };
     executar("repetir");
     EXPECT_EQ("Visualizando projeção orçamentária de 01/01/2024 a 30/04/2024", texto("PnlTitulo"))
@@ -483,7 +483,7 @@ TEST_F(JanelaDoModulo, ExportaAsLinhasAVistaNaOrdemEmQueEstao) {
     EXPECT_NE(texto(4, "CLASSIFCONTAB"), texto(0, "CLASSIFCONTAB"));
     for (const auto& [linha, posicao] : {std::pair{1U, 4U}, {2U, 0U}, {3U, 2U}})
         EXPECT_NE(std::string::npos, linhas[linha].find(texto(posicao, "CLASSIFCONTAB") + ";")) << linhas[linha];
-    EXPECT_THROW(programa.exportGrid(grade, {0}, arquivo + ".nada", titulo), host::TFalha);
+    EXPECT_THROW(programa.exportGrid(grade, {0}, arquivo + ".nada", titulo), base::TFalha);
 }
 
 TEST_F(JanelaDoModulo, ConexaoRefeitaSobAsMesmasFormasESelecaoFica) {

@@ -1,9 +1,9 @@
 // Statements run aside: the window lives while the module waits.
 #include "apoio/Bases.h"
+#include "base/Falhas.h"
 #include "desktop/Aplicacao.h"
 #include "host/DataSet.h"
-#include "host/Falhas.h"
-#include "suite/desktop/AsideConnection.h"
+#include "suite/desktop/shell/AsideConnection.h"
 
 #include <gtest/gtest.h>
 
@@ -16,8 +16,8 @@
 namespace {
 
 using namespace std::chrono_literals;
-using host::TFalhaBanco;
-using host::TTipoFalhaBanco;
+using base::TFalhaBanco;
+using base::TTipoFalhaBanco;
 using suite::desktop::Aside;
 using suite::desktop::AsideConnection;
 
@@ -106,10 +106,10 @@ TEST_F(LadoNoBanco, FalhaChegaComSeuTipoEValorChegaInteiro) {
         EXPECT_EQ(TTipoFalhaBanco::Comando, falha.Tipo());
         EXPECT_EQ("contagem", falha.Instrucao());
     }
-    EXPECT_THROW(lado.run([] { throw host::Abort(); }), host::Abort);
+    EXPECT_THROW(lado.run([] { throw base::Abort(); }), base::Abort);
     EXPECT_THROW(lado.run([]() -> int { throw std::out_of_range("x"); }), std::out_of_range);
     EXPECT_EQ("feito", *lado.run([] { return std::make_unique<std::string>("feito"); }));
-    EXPECT_THROW(conexao.ExecuteDirect("DELETE FROM SC00_EMPRESA"), host::TFalha) << "no open transaction";
+    EXPECT_THROW(conexao.ExecuteDirect("DELETE FROM SC00_EMPRESA"), base::TFalha) << "no open transaction";
 
     const auto chave = conexao.BuscarProximoID("CO01_CTBORCADAVLR");
     EXPECT_EQ(chave + 1, conexao.BuscarProximoID("CO01_CTBORCADAVLR"));

@@ -1,6 +1,6 @@
 // The widgets of a form follow its controls, and what the user does reaches them.
 #include "desktop/Aplicacao.h"
-#include "suite/desktop/FormBinding.h"
+#include "suite/desktop/form/FormBinding.h"
 
 #include <gtest/gtest.h>
 

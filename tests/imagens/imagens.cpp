@@ -1,18 +1,18 @@
 // imagens BANCO PASTA: pictures of the program's windows, each in a state that a user meets, written to the folder.
-#include "suite/desktop/Appearance.h"
-#include "suite/desktop/Desktop.h"
-#include "suite/desktop/DesktopInteraction.h"
-#include "suite/desktop/DialogWindow.h"
-#include "suite/desktop/Failures.h"
-#include "suite/desktop/GridPane.h"
-#include "suite/desktop/GridView.h"
-#include "suite/desktop/MainWindow.h"
-#include "suite/desktop/MessageDialog.h"
-#include "suite/desktop/StartDialog.h"
-#include "suite/desktop/Text.h"
+#include "suite/desktop/form/DialogWindow.h"
+#include "suite/desktop/grid/GridPane.h"
+#include "suite/desktop/grid/GridView.h"
+#include "suite/desktop/look/Appearance.h"
+#include "suite/desktop/look/Text.h"
+#include "suite/desktop/shell/Desktop.h"
+#include "suite/desktop/shell/DesktopInteraction.h"
+#include "suite/desktop/shell/Failures.h"
+#include "suite/desktop/shell/MainWindow.h"
+#include "suite/desktop/shell/MessageDialog.h"
+#include "suite/desktop/shell/StartDialog.h"
 
-#include "host/DataHora.h"
-#include "host/Falhas.h"
+#include "base/DataHora.h"
+#include "base/Falhas.h"
 #include "host/Lookup.h"
 #include "suite/program/DesktopCommand.h"
 #include "suite/program/Module.h"
@@ -68,7 +68,7 @@ void fotografarModal(const char* nome, const std::function<void()>& ato,
 void definir(host::TForm& form, const char* nome, const std::string& valor) {
     auto& controle = form.Controle(nome);
     if (auto* data = dynamic_cast<host::TZTDateEdit*>(&controle))
-        data->SetDate(*host::TDataHora::DeTexto(valor));
+        data->SetDate(*base::TDataHora::DeTexto(valor));
     else if (auto* lista = dynamic_cast<host::TZTComboBox*>(&controle))
         lista->SetValorSelecionado(valor);
     else
@@ -159,7 +159,7 @@ void mensagens(desktop::DesktopInteraction& interacao, desktop::MainWindow& jane
                             {"Consultar", "Reatualizar", "Cancelar"},
                             6});
     });
-    const host::TFalhaBanco falha(host::TTipoFalhaBanco::Conexao,
+    const base::TFalhaBanco falha(base::TTipoFalhaBanco::Conexao,
                                   "A conexão com o banco de dados foi perdida. Conecte-se novamente; o que já estava "
                                   "confirmado permanece gravado.",
                                   "08006", {335544726}, "CdsMostraCtbOrcada",

@@ -1,12 +1,12 @@
+#include "base/Falhas.h"
 #include "host/DataSet.h"
-#include "host/Falhas.h"
 
 #include <gtest/gtest.h>
 
-using host::Inteiro;
-using host::Nulo;
+using base::Inteiro;
+using base::Nulo;
+using base::TValor;
 using host::TTipoColuna;
-using host::TValor;
 
 namespace {
 
@@ -52,10 +52,10 @@ class DataSet : public testing::Test {
         sds.SetSQLConnection(conexao);
         dsp.PermiteCommandText = true;
         cds.CommandText = "SELECT";
-        conexao.linhas = {{Inteiro(2), Inteiro(10), host::TDecimal{150, 2}, std::string("água")},
+        conexao.linhas = {{Inteiro(2), Inteiro(10), base::TDecimal{150, 2}, std::string("água")},
                           {Nulo, Inteiro(20), Nulo, Nulo},
-                          {Inteiro(1), Inteiro(10), host::TDecimal{-5, 2}, std::string("")},
-                          {Inteiro(1), Nulo, host::TDecimal{0, 2}, std::string("água")}};
+                          {Inteiro(1), Inteiro(10), base::TDecimal{-5, 2}, std::string("")},
+                          {Inteiro(1), Nulo, base::TDecimal{0, 2}, std::string("água")}};
     }
     std::vector<std::int64_t> Planos() {
         std::vector<std::int64_t> lista;
@@ -79,12 +79,12 @@ TEST_F(DataSet, NavegaELeSemConfundirNuloComZero) {
     EXPECT_TRUE(cds.Bof());
     EXPECT_EQ("1.50", cds.FieldByName("VALOR").AsString());
     EXPECT_EQ("água", cds.FieldByName("NOME").AsString());
-    EXPECT_THROW(cds.FieldByName("VALOR").AsInt64(), host::TFalha) << "it has a fraction";
+    EXPECT_THROW(cds.FieldByName("VALOR").AsInt64(), base::TFalha) << "it has a fraction";
     cds.Next();
     EXPECT_TRUE(cds.FieldByName("VALOR").IsNull());
     EXPECT_FALSE(cds.FieldByName("FILIAL").AsInt64());
     EXPECT_EQ(0, cds.FieldByName("FILIAL").AsInt64OuZero());
-    EXPECT_THROW(cds.GetInt64FieldValue("FILIAL"), host::TFalha);
+    EXPECT_THROW(cds.GetInt64FieldValue("FILIAL"), base::TFalha);
     cds.Next();
     EXPECT_FALSE(cds.FieldByName("NOME").IsNull()) << "an empty text is not null";
     cds.Last();
@@ -94,7 +94,7 @@ TEST_F(DataSet, NavegaELeSemConfundirNuloComZero) {
     try {
         cds.FieldByName("NADA");
         FAIL();
-    } catch (const host::TFalha& falha) {
+    } catch (const base::TFalha& falha) {
         EXPECT_STREQ("O conjunto de dados Cds não tem o campo NADA.", falha.what());
     }
 }
@@ -118,10 +118,10 @@ TEST_F(DataSet, ReabrirRefazCamposEEventosEFecharEsqueceTudo) {
     EXPECT_TRUE(cds.IsEmpty());
     EXPECT_TRUE(cds.Eof());
     EXPECT_EQ(0U, cds.RecNo());
-    EXPECT_THROW(cds.FieldByName("VALOR").AsString(), host::TFalha);
+    EXPECT_THROW(cds.FieldByName("VALOR").AsString(), base::TFalha);
     cds.Close();
     cds.AfterOpen = [](host::TDataSet& d) { d.FieldByName("AUSENTE"); };
-    EXPECT_THROW(cds.Open(), host::TFalha);
+    EXPECT_THROW(cds.Open(), base::TFalha);
     EXPECT_FALSE(cds.Active()) << "what fails to open is closed";
 }
 
@@ -135,7 +135,7 @@ TEST_F(DataSet, TextoDoClienteSoValeOndeOProvedorDeixa) {
     EXPECT_EQ("PADRAO", conexao.texto);
     cds.Close();
     sds.CommandText.clear();
-    EXPECT_THROW(cds.Open(), host::TFalha);
+    EXPECT_THROW(cds.Open(), base::TFalha);
 }
 
 TEST_F(DataSet, IndiceOrdenaNuloPrimeiroEAchaPelosCamposIniciais) {
@@ -156,7 +156,7 @@ TEST_F(DataSet, IndiceOrdenaNuloPrimeiroEAchaPelosCamposIniciais) {
     EXPECT_EQ(1U, cds.RecNo()) << "not found: stays";
     cds.Close();
     cds.SetIndexFieldNames("FILIAL;NADA");
-    EXPECT_THROW(cds.Open(), host::TFalha);
+    EXPECT_THROW(cds.Open(), base::TFalha);
 }
 
 TEST_F(DataSet, EdicaoFicaPendenteETomaOSeuLugarNoIndice) {
@@ -167,8 +167,8 @@ TEST_F(DataSet, EdicaoFicaPendenteETomaOSeuLugarNoIndice) {
     EXPECT_EQ("novo", cds.FieldByName("NOME").AsString()) << "before it is posted";
     cds.FieldByName("FILIAL").Atribuir(Inteiro(1));
     cds.FieldByName("PLANO").Atribuir(std::string("5"));
-    cds.FieldByName("VALOR").Atribuir(host::TDecimal{12345, 3});
-    EXPECT_THROW(cds.FieldByName("PLANO").Atribuir(std::string("x")), host::TFalha);
+    cds.FieldByName("VALOR").Atribuir(base::TDecimal{12345, 3});
+    EXPECT_THROW(cds.FieldByName("PLANO").Atribuir(std::string("x")), base::TFalha);
     EXPECT_EQ(4U, cds.RecordCount());
     cds.Post();
     EXPECT_EQ(3U, cds.RecNo());

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/Falhas.h"
-#include "suite/script/GridExport.h"
+#include "base/Falhas.h"
+#include "suite/export/GridExport.h"
 
 #include <gtest/gtest.h>
 
@@ -17,7 +17,7 @@ namespace exportacao {
 class Conexao : public host::TSQLConnection {
   public:
     std::vector<host::TDescricaoColuna> colunas;
-    std::vector<std::vector<host::TValor>> linhas;
+    std::vector<std::vector<base::TValor>> linhas;
 
     std::unique_ptr<host::TCursor> AbrirCursor(const host::TInstrucao&) override {
         return std::make_unique<Cursor>(*this);
@@ -131,14 +131,14 @@ class Exportacao : public testing::Test {
             {"NOME", host::TTipoColuna::Texto, 0, 60, ""},   {"VALOR", host::TTipoColuna::Inteiro, 2, 0, ""},
             {"PERC", host::TTipoColuna::Inteiro, 4, 0, ""},  {"REAL", host::TTipoColuna::Inteiro, 2, 0, ""},
             {"DATA", host::TTipoColuna::Data, 0, 0, ""},     {"TITULO", host::TTipoColuna::Inteiro, 0, 0, ""}};
-        const host::TValor data = *host::TDataHora::De(2024, 1, 31);
+        const base::TValor data = *base::TDataHora::De(2024, 1, 31);
         conexao.linhas = {
-            {std::string("3"), host::Inteiro(0), std::string("Receita & \"ação\" <b>"), host::TDecimal{123450, 2},
-             host::Nulo, host::TDecimal{-123456, 2}, data, host::Inteiro(1)},
-            {std::string("3.01"), host::Inteiro(4711), std::string("=1+1"), host::TDecimal{123456789012345, 2},
-             host::TDecimal{-49, 4}, host::Nulo, host::Nulo, host::Inteiro(0)},
-            {std::string("03"), host::Inteiro(999'999'999'999'999), host::Nulo, host::TDecimal{1234567890123456, 2},
-             host::TDecimal{-50, 4}, host::TDecimal{5, 2}, *host::TDataHora::De(1900, 2, 28), host::Inteiro(0)}};
+            {std::string("3"), base::Inteiro(0), std::string("Receita & \"ação\" <b>"), base::TDecimal{123450, 2},
+             base::Nulo, base::TDecimal{-123456, 2}, data, base::Inteiro(1)},
+            {std::string("3.01"), base::Inteiro(4711), std::string("=1+1"), base::TDecimal{123456789012345, 2},
+             base::TDecimal{-49, 4}, base::Nulo, base::Nulo, base::Inteiro(0)},
+            {std::string("03"), base::Inteiro(999'999'999'999'999), base::Nulo, base::TDecimal{1234567890123456, 2},
+             base::TDecimal{-50, 4}, base::TDecimal{5, 2}, *base::TDataHora::De(1900, 2, 28), base::Inteiro(0)}};
         grade.SetColunas({{"CLASSE", "Classificação", "", true, "", -1, true},
                           {"CONTA", "Conta", "", false, "", 0, true},
                           {"TITULO", "Oculta", "", false, "", -1, false},
@@ -164,14 +164,14 @@ class Exportacao : public testing::Test {
 
     std::filesystem::path exportar(const std::string& nome) {
         cds.Open();
-        suite::script::exportGrid(grade, pasta / nome, titulo);
+        suite::exporting::exportGrid(grade, pasta / nome, titulo);
         return pasta / nome;
     }
     std::string falha(const std::filesystem::path& arquivo) {
         cds.Open();
         try {
-            suite::script::exportGrid(grade, arquivo, titulo);
-        } catch (const host::TFalha& f) {
+            suite::exporting::exportGrid(grade, arquivo, titulo);
+        } catch (const base::TFalha& f) {
             return f.what();
         }
         return "(sem falha)";

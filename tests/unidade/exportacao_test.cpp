@@ -4,9 +4,9 @@
 #include <csignal>
 #include <sys/resource.h>
 
-using host::Inteiro;
-using host::Nulo;
-using host::TDecimal;
+using base::Inteiro;
+using base::Nulo;
+using base::TDecimal;
 using host::TTipoColuna;
 using std::filesystem::path;
 using namespace exportacao;
@@ -141,8 +141,8 @@ TEST_F(Exportacao, ArquivosPlanosTemTitulosQueSeDistinguem) {
 
 TEST_F(Exportacao, PlanilhaTemReaisEHoras) {
     conexao.colunas = {{"FATOR", TTipoColuna::Real, 0, 0, ""}, {"HORA", TTipoColuna::DataHora, 0, 0, ""}};
-    const auto meio_dia = host::TDataHora::De(2024, 1, 31)->Decimos() + host::TDataHora::DecimosPorDia / 2;
-    conexao.linhas = {{1.5, host::TDataHora::DeDecimos(meio_dia)}, {std::nan(""), Nulo}};
+    const auto meio_dia = base::TDataHora::De(2024, 1, 31)->Decimos() + base::TDataHora::DecimosPorDia / 2;
+    conexao.linhas = {{1.5, base::TDataHora::DeDecimos(meio_dia)}, {std::nan(""), Nulo}};
     grade.SetColunas({{"FATOR", "Fator", "", true, "", -1, false}, {"HORA", "Hora", "", true, "", -1, false}});
     grade.RegraDaCelula = nullptr;
     titulo.clear();

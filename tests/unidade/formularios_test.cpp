@@ -1,11 +1,11 @@
 #include "apoio/Hospedeiro.h"
+#include "base/Falhas.h"
 #include "host/Dialogos.h"
-#include "host/Falhas.h"
 #include "host/Registro.h"
 #include "suite/program/Module.h"
 #include "suite/program/UserFolder.h"
 #include "suite/script/FormDriver.h"
-#include "suite/script/Headless.h"
+#include "suite/terminal/Headless.h"
 
 #include <gtest/gtest.h>
 
@@ -29,13 +29,13 @@ class Form : public host::TForm {
     }
     void ValidarCampos(host::TControle* sender) override {
         if (sender == &Data && Data.Date().Vazia())
-            throw host::Abort();
+            throw base::Abort();
     }
     host::TZTDateEdit Data{"Data"};
     host::TZTCheckBox A{"A"};
     host::TZTCheckBox B{"B"};
     host::TZTComboBox Combo{"Combo"};
-    host::TAction Recusar{"Recusar", [] { throw host::Abort(); }};
+    host::TAction Recusar{"Recusar", [] { throw base::Abort(); }};
 };
 
 } // namespace
@@ -72,13 +72,13 @@ TEST(FormDriver, FazOQueOUsuarioPodeENadaMais) {
     EXPECT_TRUE(saiu);
     usuario.click("Recusar");
     form.A.SetEnabled(false);
-    EXPECT_THROW(usuario.define("A", "1"), host::TFalha);
-    EXPECT_THROW(usuario.define("B", "sim"), host::TFalha);
-    EXPECT_THROW(usuario.define("Combo", "3"), host::TFalha);
+    EXPECT_THROW(usuario.define("A", "1"), base::TFalha);
+    EXPECT_THROW(usuario.define("B", "sim"), base::TFalha);
+    EXPECT_THROW(usuario.define("Combo", "3"), base::TFalha);
     try {
         usuario.define("Nada", "1");
         FAIL();
-    } catch (const host::TFalha& falha) {
+    } catch (const base::TFalha& falha) {
         EXPECT_STREQ("Form não tem \"Nada\". Existem: Data, A, B, Combo, Recusar.", falha.what());
     }
 }
@@ -95,8 +95,8 @@ TEST(BarraProgresso, ContaTudoAoHospedeiroEFechaNaFalha) {
         dialogo.BuscarBarraProgresso(1).AvancarProgresso(0);
         dialogo.BuscarBarraProgresso(1).AvancarProgresso(0);
         EXPECT_THROW(dialogo.BuscarBarraProgresso(2), std::out_of_range);
-        throw host::TFalha("falha");
-    } catch (const host::TFalha&) {
+        throw base::TFalha("falha");
+    } catch (const base::TFalha&) {
     }
     ASSERT_EQ(5U, interacao.progresso.size());
     EXPECT_EQ(2, interacao.progresso[3].Valor);
@@ -105,17 +105,17 @@ TEST(BarraProgresso, ContaTudoAoHospedeiroEFechaNaFalha) {
 
 TEST(Headless, PerguntaSemRespostaEhFalhaEAFalhaDoBancoMostraSuaCausa) {
     std::ostringstream erro;
-    suite::script::Headless interacao(erro, false);
+    suite::terminal::Headless interacao(erro, false);
     EXPECT_EQ(6, interacao.Mensagem({host::TNivelMensagem::Informacao, "", "linha\rseguinte", {"OK"}, 6}));
     EXPECT_EQ("linha\nseguinte\n", erro.str());
     EXPECT_FALSE(interacao.failure());
-    const host::TFalhaBanco causa(host::TTipoFalhaBanco::Bloqueio, "Ocupado.", "40001", {7}, "Reservar", "a\nb\x1B");
+    const base::TFalhaBanco causa(base::TTipoFalhaBanco::Bloqueio, "Ocupado.", "40001", {7}, "Reservar", "a\nb\x1B");
     interacao.Mensagem({host::TNivelMensagem::Erro, "", "Erros : Ocupado.", {"OK"}, 6, causa});
     EXPECT_NE(std::string::npos,
               erro.str().find("Erros : Ocupado.\n(SQLSTATE 40001, instrução Reservar, códigos 7: a\nb␛)\n"))
         << erro.str();
-    EXPECT_EQ(host::TTipoFalhaBanco::Bloqueio, interacao.failure()->Tipo());
-    EXPECT_THROW(interacao.Mensagem({host::TNivelMensagem::Confirmacao, "", "Sim?", {"Sim", "Não"}, 6}), host::TFalha);
+    EXPECT_EQ(base::TTipoFalhaBanco::Bloqueio, interacao.failure()->Tipo());
+    EXPECT_THROW(interacao.Mensagem({host::TNivelMensagem::Confirmacao, "", "Sim?", {"Sim", "Não"}, 6}), base::TFalha);
     interacao.Progresso({host::TEventoProgresso::TTipo::Texto, 0, "texto", 0});
     EXPECT_EQ(std::string::npos, erro.str().find("texto")) << "no progress outside a terminal";
 }
@@ -130,7 +130,7 @@ TEST(Modulo, RegistraSuaClasseEnquantoCarregado) {
         EXPECT_TRUE(host::FindClass("TForm04618"));
     }
     EXPECT_FALSE(host::FindClass("TForm04618")) << "unloading unregisters";
-    EXPECT_THROW(suite::program::Module("/nada/Pct04618.so"), host::TFalha);
+    EXPECT_THROW(suite::program::Module("/nada/Pct04618.so"), base::TFalha);
 }
 
 TEST(Modulo, ArquivoQueNaoEhModuloEhRecusadoEUmSemTextosSuportado) {
@@ -139,7 +139,7 @@ TEST(Modulo, ArquivoQueNaoEhModuloEhRecusadoEUmSemTextosSuportado) {
         try {
             const suite::program::Module modulo(pasta + nome);
             FAIL() << nome;
-        } catch (const host::TFalha& falha) {
+        } catch (const base::TFalha& falha) {
             EXPECT_EQ("O arquivo " + pasta + nome + " não é um módulo deste programa.", falha.what());
         }
     EXPECT_EQ(":  (banco de dados a partir da versão )",
@@ -152,5 +152,5 @@ TEST(PastaDoUsuario, HomeIncompletaNaoContaESemNenhumaHaUmaFrase) {
     for (const char* home : {static_cast<const char*>(nullptr), "", "casa", "./casa"})
         EXPECT_EQ("/conta", chooseHome(home, "/conta"));
     for (const char* conta : {static_cast<const char*>(nullptr), "", "conta"})
-        EXPECT_THROW(chooseHome("casa", conta), host::TFalha);
+        EXPECT_THROW(chooseHome("casa", conta), base::TFalha);
 }

@@ -1,8 +1,8 @@
 // The result grids without a grid in sight: their columns, how each cell looks, and the layouts that a user keeps.
 #include "apoio/Hospedeiro.h"
+#include "base/Falhas.h"
 #include "consultation/EstruturaGrades.h"
 #include "consultation/RegrasCelulas.h"
-#include "host/Falhas.h"
 #include "host/Leiaute.h"
 #include "suite/program/LayoutStore.h"
 
@@ -294,8 +294,8 @@ TEST_F(Leiautes, VoltamComoForamGuardadosECadaUsuarioTemOsSeus) {
     EXPECT_EQ(Lista{"Z"}, leiaute.Leiautes());
     EXPECT_EQ("", leiaute.Escolhido());
     EXPECT_EQ(Desenho, NaGrade()) << "the default takes the place of the one that is gone";
-    EXPECT_THROW(leiaute.Salvar("  "), host::TFalha);
-    EXPECT_THROW(leiaute.Salvar(std::string(201, 'x')), host::TFalha);
+    EXPECT_THROW(leiaute.Salvar("  "), base::TFalha);
+    EXPECT_THROW(leiaute.Salvar(std::string(201, 'x')), base::TFalha);
     EXPECT_TRUE(interacao.mensagens.empty());
 }
 
@@ -354,11 +354,11 @@ TEST_F(Leiautes, PastaQueNaoServeNaoImpedeAJanela) {
     leiaute.CarregarListaDeLeiautes();
     EXPECT_EQ(Lista{}, leiaute.Leiautes());
     EXPECT_EQ(1U, interacao.mensagens.size());
-    EXPECT_THROW(leiaute.Salvar("meu"), host::TFalha);
+    EXPECT_THROW(leiaute.Salvar("meu"), base::TFalha);
     EXPECT_EQ("", leiaute.Escolhido());
-    suite::program::LayoutStore semPasta([]() -> std::filesystem::path { throw host::TFalha("sem pasta"); });
+    suite::program::LayoutStore semPasta([]() -> std::filesystem::path { throw base::TFalha("sem pasta"); });
     EXPECT_EQ(Lista{}, semPasta.Listar({"{K}", 5})) << "a user without a home has kept nothing";
-    EXPECT_THROW(semPasta.Gravar({"{K}", 5}, "meu", {}), host::TFalha);
+    EXPECT_THROW(semPasta.Gravar({"{K}", 5}, "meu", {}), base::TFalha);
     servicos.Leiautes = nullptr;
     const host::TInstalacaoServicos semArmazem(servicos);
     leiaute.CarregarListaDeLeiautes();

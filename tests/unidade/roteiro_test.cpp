@@ -1,5 +1,5 @@
+#include "base/Falhas.h"
 #include "host/Dialogos.h"
-#include "host/Falhas.h"
 #include "host/Formularios.h"
 #include "host/Grade.h"
 #include "host/Servicos.h"
@@ -27,7 +27,7 @@ class Dialogo : public host::TFormZTTandorPadraoResult {
         if (Data.Date().Vazia()) {
             GZTUtilsDialogs.Informacao("Sem\rdata.");
             host::TZTUtilsControls::AtribuirFocoControle(Data);
-            throw host::Abort();
+            throw base::Abort();
         }
         Fechar(1);
     }
@@ -50,7 +50,7 @@ class Dialogo : public host::TFormZTTandorPadraoResult {
     host::TAction ActPerguntar{"ActPerguntar", Perguntar};
     host::TAction ActProgredir{"ActProgredir", Progredir};
     host::TAction ActFalhar{"ActFalhar", [] {
-                                throw host::TFalhaBanco(host::TTipoFalhaBanco::Comando, "O banco falhou.", "42000", {},
+                                throw base::TFalhaBanco(base::TTipoFalhaBanco::Comando, "O banco falhou.", "42000", {},
                                                         "X", "detalhe");
                             }};
     host::TAction ActEngolir{"ActEngolir", [] {
@@ -64,12 +64,12 @@ class Dialogo : public host::TFormZTTandorPadraoResult {
 class Modulo : public host::TDMPadrao {
   public:
     std::vector<host::TCampoDescrito> DescreverCampos() const override {
-        return {{"Nada", host::Nulo},
+        return {{"Nada", base::Nulo},
                 {"Sim", true},
-                {"Valor", host::TValor(host::TDecimal{1250, 2})},
-                {"Dia", host::TValor(*host::TDataHora::De(2024, 1, 31))},
+                {"Valor", base::TValor(base::TDecimal{1250, 2})},
+                {"Dia", base::TValor(*base::TDataHora::De(2024, 1, 31))},
                 {"Lista", std::vector<std::string>{"a", "b\rc"}},
-                {"Registro", std::vector<host::TCampoDescrito>{{"Dentro", host::TValor("x")}}}};
+                {"Registro", std::vector<host::TCampoDescrito>{{"Dentro", base::TValor("x")}}}};
     }
 };
 
@@ -78,7 +78,7 @@ class Janela : public host::TFormZTTandorPadraoSelecao {
     Janela() : TFormZTTandorPadraoSelecao("Janela", "Uma janela") {
         conexao.colunas = {{"NOME", host::TTipoColuna::Texto, 0, 20, ""},
                            {"VALOR", host::TTipoColuna::Inteiro, 2, 0, ""}};
-        conexao.linhas = {{std::string("água"), host::TDecimal{150, 2}}, {host::Nulo, host::TDecimal{-5, 2}}};
+        conexao.linhas = {{std::string("água"), base::TDecimal{150, 2}}, {base::Nulo, base::TDecimal{-5, 2}}};
         dados.CommandText = "SELECT";
         Fonte.DataSet = &dados;
         Grade.SetColunas({{"NOME", "Nome", "", true, "", -1}, {"VALOR", "Valor", "Faixa", true, ",0.00", 0}});
@@ -97,7 +97,7 @@ class Janela : public host::TFormZTTandorPadraoSelecao {
     void ActSelecionarExecute(host::TControle*) override {
         try {
             dialogo.ShowModal();
-        } catch (const host::TFalha&) { // a window that reports every failure
+        } catch (const base::TFalha&) { // a window that reports every failure
         }
         dados.Open();
         Grade.SetVisible(true);
@@ -127,7 +127,7 @@ Resultado executar(const std::string& roteiro) {
     } catch (const ScriptFailure& falha) {
         resultado.falha = falha.what();
         resultado.codigo = falha.kind() == ScriptFailure::Kind::WrongStep ? 2 : 1;
-    } catch (const host::TFalhaBanco& falha) {
+    } catch (const base::TFalhaBanco& falha) {
         resultado.falha = falha.what();
         resultado.codigo = 3;
     }
@@ -290,6 +290,6 @@ TEST(Roteiro, MostraGradeEModuloDeDados) {
 }
 
 TEST(Json, EscapaOQueUmTerminalObedece) {
-    EXPECT_EQ(R"("\"\\\r\n\u001b\u007f\u0080\u009f")", suite::script::quoteJson("\"\\\r\n\x1B\x7F\u0080\u009F"));
-    EXPECT_EQ("\"\u00A0ção \u2421\uFFFD\"", suite::script::quoteJson("\u00A0ção \u2421\x9B"));
+    EXPECT_EQ(R"("\"\\\r\n\u001b\u007f\u0080\u009f")", suite::exporting::quoteJson("\"\\\r\n\x1B\x7F\u0080\u009F"));
+    EXPECT_EQ("\"\u00A0ção \u2421\uFFFD\"", suite::exporting::quoteJson("\u00A0ção \u2421\x9B"));
 }

@@ -1,11 +1,11 @@
 // The progress dialog as a terminal shows it.
-#include "suite/script/TerminalProgress.h"
+#include "suite/terminal/TerminalProgress.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 
-using suite::script::TerminalProgress;
+using suite::terminal::TerminalProgress;
 using Evento = host::TEventoProgresso;
 
 namespace {

@@ -1,16 +1,16 @@
-#include "host/DataHora.h"
-#include "host/Decimal.h"
-#include "host/FormatoNumerico.h"
-#include "host/Texto.h"
+#include "base/DataHora.h"
+#include "base/Decimal.h"
+#include "base/FormatoNumerico.h"
+#include "base/Texto.h"
 #include "host/Utilidades.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 
-using host::TDataHora;
-using host::TDecimal;
-using host::TMoeda;
+using base::TDataHora;
+using base::TDecimal;
+using base::TMoeda;
 
 TEST(Decimal, TextoEhExatoEReversivel) {
     constexpr auto Maior = std::numeric_limits<std::int64_t>::max();
@@ -55,7 +55,7 @@ TEST(Moeda, QuatroCasasComEmpateParaOPar) {
 }
 
 TEST(FormatoNumerico, MostraComoUmLeitorBrasileiroEspera) {
-    using host::FormatarNumero;
+    using base::FormatarNumero;
     EXPECT_EQ("1.234.567,50", FormatarNumero({12345675, 1}, ",0.00"));
     EXPECT_EQ("-999,00", FormatarNumero({-999, 0}, ",0.00"));
     EXPECT_EQ("-1.000,00", FormatarNumero({-1000, 0}, ",0.00"));
@@ -106,7 +106,7 @@ TEST(CombinacaoBinaria, SomaEProcura) {
 }
 
 TEST(Format, ExigeQueMarcasEArgumentosSeCorrespondam) {
-    using host::Format;
+    using base::Format;
     EXPECT_EQ("a=7 b=x a=7 100%", Format("a=%0:d b=%1:s a=%0:d 100%%", {std::int64_t{7}, "x"}));
     EXPECT_EQ("IN (1,2) = 3", Format("IN (%s) = %d", {"1,2", std::int64_t{3}}));
     EXPECT_EQ("LIKE '1.%'", Format("LIKE %s", {"'1.%'"})) << "an argument is not read for placeholders";
@@ -114,13 +114,13 @@ TEST(Format, ExigeQueMarcasEArgumentosSeCorrespondam) {
     EXPECT_THROW(Format("%0:d", {"x"}), std::logic_error);
     EXPECT_THROW(Format("%0:s", {"x", "y"}), std::logic_error);
     EXPECT_THROW(Format("%0s", {"x"}), std::logic_error);
-    EXPECT_EQ("'d''água'", host::QuotedStr("d'água"));
-    EXPECT_EQ("1, 2", host::Trim(" 1, 2 \r\n"));
+    EXPECT_EQ("'d''água'", base::QuotedStr("d'água"));
+    EXPECT_EQ("1, 2", base::Trim(" 1, 2 \r\n"));
 }
 
 TEST(SemControles, TerminalNaoObedeceANomes) {
-    using host::LinhasSemControles;
-    using host::SemControles;
+    using base::LinhasSemControles;
+    using base::SemControles;
     EXPECT_EQ("Pão – 100 €", SemControles("Pão – 100 €"));
     EXPECT_EQ("␀␛[31m␇␉␊␍␟", SemControles(std::string_view("\0\x1B[31m\a\t\n\r\x1F", 11)));
     EXPECT_EQ("a␡\uFFFD\uFFFD\u00A0b", SemControles("a\x7F\u0080\u009F\u00A0b"));

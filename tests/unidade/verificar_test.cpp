@@ -1,8 +1,8 @@
-#include "suite/program/SchemaChecks.h"
+#include "suite/verify/SchemaChecks.h"
 
 #include <gtest/gtest.h>
 
-using namespace suite::program;
+using namespace suite::verify;
 
 TEST(Verificar, TipoDaColuna) {
     struct Caso {

@@ -38,7 +38,7 @@ class Status {
     Status& operator=(const Status&) = delete;
     Firebird::CheckStatusWrapper* get() { return &wrapper_; }
     bool failed() const { return (wrapper_.getState() & Firebird::IStatus::STATE_ERRORS) != 0; }
-    // Raises host::TFalhaBanco under the statement's name if the last call failed.
+    // Raises base::TFalhaBanco under the statement's name if the last call failed.
     void check(std::string_view name);
 
   private:

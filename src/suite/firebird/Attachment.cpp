@@ -1,6 +1,6 @@
 #include "suite/firebird/Attachment.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 #include "suite/firebird/Charset.h"
 #include "suite/firebird/Error.h"
 #include "suite/firebird/LockFolder.h"
@@ -47,7 +47,7 @@ class ParameterBlock {
 };
 
 [[noreturn]] void refuse(const std::filesystem::path& file, const std::string& why, long code) {
-    throw host::TFalhaBanco(host::TTipoFalhaBanco::Conexao, why, "08001", {code}, std::string(OpeningName),
+    throw base::TFalhaBanco(base::TTipoFalhaBanco::Conexao, why, "08001", {code}, std::string(OpeningName),
                             file.string());
 }
 

@@ -8,7 +8,7 @@
 namespace suite::firebird {
 
 // One attachment to one database. All calls but cancel belong to one thread at a time. Failures raise
-// host::TFalhaBanco. The destructor detaches and does not throw.
+// base::TFalhaBanco. The destructor detaches and does not throw.
 class Attachment {
   public:
     Attachment(const Target& target, const Credentials& credentials);
@@ -21,7 +21,7 @@ class Attachment {
 
     // Writes what is pending to the disk and ends. May raise, unlike the destructor.
     void detach();
-    // Ends the running statement of another thread with host::TTipoFalhaBanco::Cancelado. Does nothing when idle.
+    // Ends the running statement of another thread with base::TTipoFalhaBanco::Cancelado. Does nothing when idle.
     void cancel() noexcept;
     // Takes back a cancel that came too late for its statement and would hit the next one.
     void clearPendingCancel() noexcept;

@@ -29,13 +29,13 @@ std::int64_t blockingTransaction(const std::string& detail) {
 
 } // namespace
 
-host::TFalhaBanco withBlocker(Attachment& attachment, const host::TFalhaBanco& failure) {
+base::TFalhaBanco withBlocker(Attachment& attachment, const base::TFalhaBanco& failure) {
     std::string holder;
     try {
-        const host::TValor parameters[] = {host::Inteiro(blockingTransaction(failure.Detalhe()))};
+        const base::TValor parameters[] = {base::Inteiro(blockingTransaction(failure.Detalhe()))};
         Transaction transaction(attachment, TransactionMode::ReadOnly);
         holder = TextoDe(queryValue(transaction, HolderQuery, "quem grava os mesmos dados", parameters));
-    } catch (const host::TFalha&) { // NOLINT: the failure to tell is the one at hand
+    } catch (const base::TFalha&) { // NOLINT: the failure to tell is the one at hand
     }
     if (holder.empty())
         return failure;

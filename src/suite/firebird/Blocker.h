@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 
 namespace suite::firebird {
 
@@ -8,6 +8,6 @@ class Attachment;
 
 // The failure to get a lock, with the user who holds it in its sentence as far as this user may see the connections of
 // the database; else as it is.
-host::TFalhaBanco withBlocker(Attachment& attachment, const host::TFalhaBanco& failure);
+base::TFalhaBanco withBlocker(Attachment& attachment, const base::TFalhaBanco& failure);
 
 } // namespace suite::firebird

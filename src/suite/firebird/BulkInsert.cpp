@@ -13,7 +13,7 @@ constexpr std::size_t RowsPerBlock = 100;
 BulkInsert::BulkInsert(Transaction& transaction, std::string table, std::vector<std::string> columns)
     : transaction_(&transaction), table_(std::move(table)), columns_(std::move(columns)) {}
 
-void BulkInsert::add(std::span<const host::TValor> row) {
+void BulkInsert::add(std::span<const base::TValor> row) {
     if (row.size() != columns_.size())
         throw std::logic_error(table_ + ": a row needs " + std::to_string(columns_.size()) + " values");
     pending_.insert(pending_.end(), row.begin(), row.end());

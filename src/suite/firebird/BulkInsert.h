@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/Valor.h"
+#include "base/Valor.h"
 #include "suite/firebird/Statement.h"
 
 #include <optional>
@@ -16,7 +16,7 @@ class BulkInsert {
   public:
     BulkInsert(Transaction& transaction, std::string table, std::vector<std::string> columns);
 
-    void add(std::span<const host::TValor> row); // one value a column, in order
+    void add(std::span<const base::TValor> row); // one value a column, in order
     void flush();
 
   private:
@@ -26,7 +26,7 @@ class BulkInsert {
     std::string table_;
     std::vector<std::string> columns_;
     std::optional<Statement> fullBlock_;
-    std::vector<host::TValor> pending_;
+    std::vector<base::TValor> pending_;
 };
 
 } // namespace suite::firebird

@@ -1,7 +1,7 @@
 #include "suite/firebird/ChangeWriter.h"
 
+#include "base/Falhas.h"
 #include "host/DataSet.h"
-#include "host/Falhas.h"
 #include "suite/firebird/Statement.h"
 #include "suite/firebird/Transaction.h"
 
@@ -21,7 +21,7 @@ class Writer {
             roles_ = &provider->DataSet().Papeis;
         }
         if (table_.empty() || !roles_ || roles_->empty() || !dataSet.Provider()->LocalizaSoPelaChave)
-            throw host::TFalha("O conjunto de dados " + dataSet.Nome() + " não pode ser gravado.");
+            throw base::TFalha("O conjunto de dados " + dataSet.Nome() + " não pode ser gravado.");
     }
 
     void write(std::size_t row, const host::TAlteracao& change) {
@@ -55,7 +55,7 @@ class Writer {
         run("INSERT INTO " + table_ + " (" + names + ") VALUES (" + marks + ")", written, row);
     }
 
-    void update(std::size_t row, const std::vector<host::TValor>& before) {
+    void update(std::size_t row, const std::vector<base::TValor>& before) {
         Columns parameters;
         std::string assignments;
         for (std::size_t i = 0; i < before.size(); ++i)
@@ -73,7 +73,7 @@ class Writer {
             }
         const auto affected = run("UPDATE " + table_ + " SET " + assignments + " WHERE " + condition, parameters, row);
         if (affected != 1)
-            throw host::TFalha(affected == 0
+            throw base::TFalha(affected == 0
                                    ? "Um registro de " + table_ + " foi excluído por outro usuário; nada foi gravado."
                                    : "Um registro de " + table_ + " tem a chave repetida no banco; nada foi gravado.");
     }
@@ -87,7 +87,7 @@ class Writer {
                 labels.push_back(table_ + "." + name(i));
             statement_->nameParameters(std::move(labels));
         }
-        std::vector<host::TValor> values;
+        std::vector<base::TValor> values;
         for (const auto i : columns)
             values.push_back(column(i).Valor(row));
         statement_->execute(transaction_, values);

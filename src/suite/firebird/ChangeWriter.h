@@ -10,7 +10,7 @@ class Transaction;
 
 // Writes the pending changes of a dataset into the table that its provider names: a new row with all its columns of
 // that table that have a value, a changed row by its key fields alone (null equal to null). An update that does not
-// meet exactly one row is a host::TFalha.
+// meet exactly one row is a base::TFalha.
 void writeChanges(Transaction& transaction, const host::TZTClientDataSet& dataSet);
 
 } // namespace suite::firebird

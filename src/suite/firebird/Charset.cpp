@@ -1,6 +1,6 @@
 #include "suite/firebird/Charset.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 
 namespace suite::firebird {
 
@@ -33,7 +33,7 @@ std::string toLatin1(std::string_view utf8, std::string_view place) {
             std::size_t end = i + 1;
             while (end < utf8.size() && (static_cast<unsigned char>(utf8[end]) & 0xC0U) == 0x80)
                 ++end;
-            throw host::TFalha("O caractere \"" + std::string(utf8.substr(i, end - i)) + "\" em " + std::string(place) +
+            throw base::TFalha("O caractere \"" + std::string(utf8.substr(i, end - i)) + "\" em " + std::string(place) +
                                " não pode ser gravado no banco de dados. Troque-o por outro.");
         }
         latin1 += static_cast<char>((lead & 3U) << 6 | (next & 0x3FU));

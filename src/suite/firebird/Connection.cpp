@@ -1,7 +1,7 @@
 #include "suite/firebird/Connection.h"
 
+#include "base/Falhas.h"
 #include "host/DataSet.h"
-#include "host/Falhas.h"
 #include "suite/firebird/ChangeWriter.h"
 #include "suite/firebird/Cursor.h"
 
@@ -70,8 +70,8 @@ constexpr const char* GeneratorQuery = R"(
 } // namespace
 
 std::string findGenerator(Transaction& transaction, const std::string& table) {
-    const host::TValor byName = "GEN_" + table;
-    const host::TValor parameters[] = {byName, table, byName};
+    const base::TValor byName = "GEN_" + table;
+    const base::TValor parameters[] = {byName, table, byName};
     return TextoDe(queryValue(transaction, GeneratorQuery, "gerador de " + table, parameters));
 }
 
@@ -112,7 +112,7 @@ std::unique_ptr<host::TCursor> Connection::AbrirCursor(const host::TInstrucao& s
 void Connection::ExecuteDirect(const std::string& text) {
     auto* transaction = openTransaction();
     if (!transaction)
-        throw host::TFalha("Não há transação aberta para a gravação.");
+        throw base::TFalha("Não há transação aberta para a gravação.");
     execute(*transaction, text, "ExecuteDirect");
 }
 
@@ -121,15 +121,15 @@ host::TResultStatus Connection::ExecutouSQL(std::span<const host::TInstrucao> st
         std::optional<Transaction> own;
         auto* transaction = durable ? &own.emplace(attachment_, TransactionMode::ReadWrite) : openTransaction();
         if (!transaction)
-            throw host::TFalha("Não há transação aberta para a gravação.");
+            throw base::TFalha("Não há transação aberta para a gravação.");
         for (const auto& statement : statements)
             execute(*transaction, statement.Texto, statement.Nome);
         if (own)
             own->commit();
         return {};
-    } catch (const host::TFalhaBanco& failure) {
+    } catch (const base::TFalhaBanco& failure) {
         return {false, failure.what(), failure};
-    } catch (const host::TFalha& failure) {
+    } catch (const base::TFalha& failure) {
         return {false, failure.what()};
     }
 }
@@ -140,7 +140,7 @@ std::vector<std::string> Connection::AplicarAlteracoesNoBD(std::span<host::TZTCl
         for (const auto* dataSet : dataSets)
             writeChanges(transaction, *dataSet);
         transaction.commit();
-    } catch (const host::TFalha& failure) {
+    } catch (const base::TFalha& failure) {
         return {failure.what()};
     }
     for (auto* dataSet : dataSets)
@@ -154,7 +154,7 @@ std::string Connection::generatorOf(const std::string& table) {
     Transaction transaction(attachment_, TransactionMode::ReadOnly);
     const auto name = findGenerator(transaction, table);
     if (name.empty())
-        throw host::TFalha("A tabela " + table + " não tem gerador de chaves neste banco de dados.");
+        throw base::TFalha("A tabela " + table + " não tem gerador de chaves neste banco de dados.");
     return generators_[table] = name;
 }
 
@@ -163,7 +163,7 @@ std::int64_t Connection::BuscarProximoID(std::string_view table) {
     Transaction transaction(attachment_, TransactionMode::ReadOnly);
     const auto value = queryValue(transaction, "SELECT GEN_ID(\"" + generator + "\", 1) FROM RDB$DATABASE",
                                   "próxima chave de " + std::string(table));
-    return std::get<host::TDecimal>(value).Unidades;
+    return std::get<base::TDecimal>(value).Unidades;
 }
 
 } // namespace suite::firebird

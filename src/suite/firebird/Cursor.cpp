@@ -1,6 +1,6 @@
 #include "suite/firebird/Cursor.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 #include "suite/firebird/Attachment.h"
 #include "suite/firebird/Charset.h"
 #include "suite/firebird/StatementShared.h"
@@ -33,7 +33,7 @@ TTipoColuna columnType(unsigned type, const std::string& name) {
     case SQL_TIMESTAMP:
         return TTipoColuna::DataHora;
     default:
-        throw host::TFalha("A coluna " + name + " tem um tipo que o programa não lê.");
+        throw base::TFalha("A coluna " + name + " tem um tipo que o programa não lê.");
     }
 }
 

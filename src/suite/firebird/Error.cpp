@@ -11,7 +11,7 @@ namespace suite::firebird {
 
 namespace {
 
-using host::TTipoFalhaBanco;
+using base::TTipoFalhaBanco;
 
 // What the status vector holds, one entry a code with the texts that came with it.
 struct Entry {
@@ -146,7 +146,7 @@ std::string fill(std::string text, const std::string& argument) {
 
 } // namespace
 
-host::TFalhaBanco toFailure(const std::intptr_t* status, const std::string& statement) {
+base::TFalhaBanco toFailure(const std::intptr_t* status, const std::string& statement) {
     const auto entries = read(status);
     std::vector<long> codes;
     for (const auto& entry : entries)

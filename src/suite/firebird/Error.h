@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 
 #include <cstdint>
 #include <string>
@@ -13,6 +13,6 @@ inline constexpr std::string_view OpeningName = "abertura do banco de dados";
 
 // A status vector of the client library as the suite's failure: the Portuguese sentence for what a user can act on,
 // and the engine's codes and text for whoever looks for the cause.
-host::TFalhaBanco toFailure(const std::intptr_t* status, const std::string& statement);
+base::TFalhaBanco toFailure(const std::intptr_t* status, const std::string& statement);
 
 } // namespace suite::firebird

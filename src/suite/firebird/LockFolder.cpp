@@ -1,6 +1,6 @@
 #include "suite/firebird/LockFolder.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 
 #include <ibase.h>
 
@@ -48,7 +48,7 @@ struct stat statusOf(const Descriptor& file) {
 }
 
 [[noreturn]] void refuse(const path& folder, const std::string& why, long code = isc_lock_dir_access) {
-    throw host::TFalhaBanco(host::TTipoFalhaBanco::Conexao, why, "08001", {code}, "pasta de travas", folder.string());
+    throw base::TFalhaBanco(base::TTipoFalhaBanco::Conexao, why, "08001", {code}, "pasta de travas", folder.string());
 }
 
 class LockFolder {

@@ -13,7 +13,7 @@ std::filesystem::path realFile(const std::filesystem::path& database);
 // group's.
 
 // Makes that folder, or checks the one that is there, and points the engine at it, to be called before each attach.
-// Throws host::TFalhaBanco with the sentence that says what is wrong.
+// Throws base::TFalhaBanco with the sentence that says what is wrong.
 void useLockFolder(const std::filesystem::path& database);
 
 // After it: gives the engine's files to whom the database belongs, whoever runs this, and takes their whole size from

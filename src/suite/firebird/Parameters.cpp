@@ -1,6 +1,6 @@
 #include "suite/firebird/Parameters.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 #include "suite/firebird/Charset.h"
 #include "suite/firebird/Wire.h"
 
@@ -19,15 +19,15 @@ struct Slot {
 };
 
 [[noreturn]] void refuse(const Slot& slot, const std::string& why) {
-    throw host::TFalha("O valor de " + slot.label + " não pode ser gravado: " + why + ".");
+    throw base::TFalha("O valor de " + slot.label + " não pode ser gravado: " + why + ".");
 }
 
-std::int64_t units(const Slot& slot, const host::TValor& value) {
-    std::optional<host::TDecimal> number;
-    if (const auto* decimal = std::get_if<host::TDecimal>(&value))
+std::int64_t units(const Slot& slot, const base::TValor& value) {
+    std::optional<base::TDecimal> number;
+    if (const auto* decimal = std::get_if<base::TDecimal>(&value))
         number = *decimal;
     else if (const auto* text = std::get_if<std::string>(&value))
-        number = host::TDecimal::De(*text);
+        number = base::TDecimal::De(*text);
     if (!number)
         refuse(slot, "\"" + TextoDe(value) + "\" não é um número");
     try {
@@ -38,29 +38,29 @@ std::int64_t units(const Slot& slot, const host::TValor& value) {
 }
 
 template <class T>
-void storeInteger(unsigned char* cell, const Slot& slot, const host::TValor& value) {
+void storeInteger(unsigned char* cell, const Slot& slot, const base::TValor& value) {
     const auto number = units(slot, value);
     if (number < std::numeric_limits<T>::min() || number > std::numeric_limits<T>::max())
         refuse(slot, "número grande demais");
     store(cell, static_cast<T>(number));
 }
 
-double real(const Slot& slot, const host::TValor& value) {
+double real(const Slot& slot, const base::TValor& value) {
     if (const auto* number = std::get_if<double>(&value))
         return *number;
-    if (const auto* decimal = std::get_if<host::TDecimal>(&value))
+    if (const auto* decimal = std::get_if<base::TDecimal>(&value))
         return std::stod(decimal->Texto());
     refuse(slot, "\"" + TextoDe(value) + "\" não é um número");
 }
 
-ISC_TIMESTAMP stamp(const Slot& slot, const host::TValor& value) {
-    const auto* date = std::get_if<host::TDataHora>(&value);
+ISC_TIMESTAMP stamp(const Slot& slot, const base::TValor& value) {
+    const auto* date = std::get_if<base::TDataHora>(&value);
     if (!date)
         refuse(slot, "\"" + TextoDe(value) + "\" não é uma data");
     return dateToWire(*date);
 }
 
-void storeText(unsigned char* cell, const Slot& slot, const host::TValor& value) {
+void storeText(unsigned char* cell, const Slot& slot, const base::TValor& value) {
     const auto bytes = toLatin1(TextoDe(value), slot.label);
     if (bytes.size() > slot.length)
         refuse(slot, "texto com mais de " + std::to_string(slot.length) + " caracteres");
@@ -73,7 +73,7 @@ void storeText(unsigned char* cell, const Slot& slot, const host::TValor& value)
     }
 }
 
-void storeValue(unsigned char* cell, const Slot& slot, const host::TValor& value) {
+void storeValue(unsigned char* cell, const Slot& slot, const base::TValor& value) {
     switch (slot.type) {
     case SQL_SHORT:
         return storeInteger<std::int16_t>(cell, slot, value);
@@ -99,7 +99,7 @@ void storeValue(unsigned char* cell, const Slot& slot, const host::TValor& value
 
 } // namespace
 
-std::vector<unsigned char> inputMessage(Firebird::IMessageMetadata* metadata, std::span<const host::TValor> values,
+std::vector<unsigned char> inputMessage(Firebird::IMessageMetadata* metadata, std::span<const base::TValor> values,
                                         const std::string& statement, const std::vector<std::string>& labels) {
     Status status; // descriptions of a prepared statement: no call of these goes to the database
     const unsigned count = metadata->getCount(status.get());

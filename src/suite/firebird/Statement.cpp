@@ -1,4 +1,4 @@
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 #include "suite/firebird/Attachment.h"
 #include "suite/firebird/Blocker.h"
 #include "suite/firebird/Charset.h"
@@ -64,7 +64,7 @@ Statement::Statement(Statement&&) noexcept = default;
 
 void Statement::nameParameters(std::vector<std::string> labels) { labels_ = std::move(labels); }
 
-void Statement::execute(Transaction& transaction, std::span<const host::TValor> parameters) {
+void Statement::execute(Transaction& transaction, std::span<const base::TValor> parameters) {
     auto message = inputMessage(shared_->input.get(), parameters, shared_->name, labels_);
     shared_->transaction = &transaction;
     // The engine waits for another's lock, but when the other commits it gives up instead of going on with what was
@@ -77,8 +77,8 @@ void Statement::execute(Transaction& transaction, std::span<const host::TValor> 
                                          nullptr);
             });
             return;
-        } catch (const host::TFalhaBanco& failure) {
-            if (failure.Tipo() != host::TTipoFalhaBanco::Bloqueio)
+        } catch (const base::TFalhaBanco& failure) {
+            if (failure.Tipo() != base::TTipoFalhaBanco::Bloqueio)
                 throw;
             if (std::chrono::steady_clock::now() >= end)
                 throw withBlocker(transaction.attachment(), failure);
@@ -90,7 +90,7 @@ std::uint64_t Statement::affectedRows() const {
     return call(shared_->name, [&](auto* status) { return shared_->handle->getAffectedRecords(status); });
 }
 
-Cursor Statement::open(Transaction& transaction, std::span<const host::TValor> parameters) {
+Cursor Statement::open(Transaction& transaction, std::span<const base::TValor> parameters) {
     auto message = inputMessage(shared_->input.get(), parameters, shared_->name, labels_);
     shared_->transaction = &transaction;
     Ref<Firebird::IResultSet> rows(call(shared_->name, [&](auto* status) {
@@ -115,7 +115,7 @@ void execute(Transaction& transaction, std::string_view sql, std::string name) {
 }
 
 host::TColunas queryRows(Transaction& transaction, std::string_view sql, std::string name,
-                         std::span<const host::TValor> parameters) {
+                         std::span<const base::TValor> parameters) {
     Statement statement(transaction, sql, std::move(name));
     auto cursor = statement.open(transaction, parameters);
     host::TColunas columns(cursor.columns().begin(), cursor.columns().end());
@@ -124,12 +124,12 @@ host::TColunas queryRows(Transaction& transaction, std::string_view sql, std::st
     return columns;
 }
 
-host::TValor queryValue(Transaction& transaction, std::string_view sql, std::string name,
-                        std::span<const host::TValor> parameters) {
+base::TValor queryValue(Transaction& transaction, std::string_view sql, std::string name,
+                        std::span<const base::TValor> parameters) {
     Statement statement(transaction, sql, std::move(name));
     auto cursor = statement.open(transaction, parameters);
     host::TColunas columns(cursor.columns().begin(), cursor.columns().end());
-    return cursor.read(columns, 1) == 0 ? host::TValor{} : columns.front().Valor(0);
+    return cursor.read(columns, 1) == 0 ? base::TValor{} : columns.front().Valor(0);
 }
 
 } // namespace suite::firebird

@@ -24,10 +24,10 @@ class Statement {
     // What errors call the parameters, in order; starts again from the first when there are more parameters.
     void nameParameters(std::vector<std::string> labels);
     // Runs a statement without a cursor. A parameter is converted to the type the engine expects.
-    void execute(Transaction& transaction, std::span<const host::TValor> parameters = {});
+    void execute(Transaction& transaction, std::span<const base::TValor> parameters = {});
     std::uint64_t affectedRows() const;
     // Rows of a select or a selectable block. The cursor keeps the statement alive, not the transaction.
-    Cursor open(Transaction& transaction, std::span<const host::TValor> parameters = {});
+    Cursor open(Transaction& transaction, std::span<const base::TValor> parameters = {});
     bool isSelect() const;
     std::string plan() const;
 
@@ -42,9 +42,9 @@ class Statement {
 void execute(Transaction& transaction, std::string_view sql, std::string name);
 // All rows of a select at once.
 host::TColunas queryRows(Transaction& transaction, std::string_view sql, std::string name,
-                         std::span<const host::TValor> parameters = {});
+                         std::span<const base::TValor> parameters = {});
 // The one value of the first row; NULL where there is no row.
-host::TValor queryValue(Transaction& transaction, std::string_view sql, std::string name,
-                        std::span<const host::TValor> parameters = {});
+base::TValor queryValue(Transaction& transaction, std::string_view sql, std::string name,
+                        std::span<const base::TValor> parameters = {});
 
 } // namespace suite::firebird

@@ -1,6 +1,6 @@
 #include "suite/firebird/Target.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 
 #include <cctype>
 
@@ -8,7 +8,7 @@ namespace suite::firebird {
 
 Target::Target(std::string text) : text_(std::move(text)) {
     if (text_.empty())
-        throw host::TFalha("Informe o banco de dados: um arquivo, ou servidor/porta:caminho.");
+        throw base::TFalha("Informe o banco de dados: um arquivo, ou servidor/porta:caminho.");
     // A colon ends the server's part; a path of this system has it only behind a slash, unless it is a file's that is
     // there.
     const auto colon = text_.find(':');

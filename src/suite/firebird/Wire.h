@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/DataHora.h"
+#include "base/DataHora.h"
 
 #include <ibase.h>
 
@@ -23,12 +23,12 @@ void store(unsigned char* to, T value) {
 // The engine counts days from 1858-11-17, the host from 1899-12-30; both count ten-thousandths of a second.
 constexpr std::int64_t DaysBetweenEpochs = 15018;
 
-inline host::TDataHora dateFromWire(ISC_DATE day, ISC_TIME time) {
-    return host::TDataHora::DeDecimos((day - DaysBetweenEpochs) * host::TDataHora::DecimosPorDia + time);
+inline base::TDataHora dateFromWire(ISC_DATE day, ISC_TIME time) {
+    return base::TDataHora::DeDecimos((day - DaysBetweenEpochs) * base::TDataHora::DecimosPorDia + time);
 }
-inline ISC_TIMESTAMP dateToWire(host::TDataHora value) {
+inline ISC_TIMESTAMP dateToWire(base::TDataHora value) {
     const auto midnight = value.SemHora().Decimos();
-    return {static_cast<ISC_DATE>(midnight / host::TDataHora::DecimosPorDia + DaysBetweenEpochs),
+    return {static_cast<ISC_DATE>(midnight / base::TDataHora::DecimosPorDia + DaysBetweenEpochs),
             static_cast<ISC_TIME>(value.Decimos() - midnight)};
 }
 

@@ -1,15 +1,16 @@
 #include "suite/program/ConsultCommand.h"
 
-#include "host/ArquivoInteiro.h"
-#include "host/Falhas.h"
+#include "base/ArquivoInteiro.h"
+#include "base/Falhas.h"
+#include "base/Texto.h"
 #include "host/Grade.h"
 #include "host/Lookup.h"
 #include "host/Registro.h"
-#include "host/Texto.h"
+#include "suite/export/GridExport.h"
+#include "suite/export/Rows.h"
 #include "suite/program/FillSelection.h"
 #include "suite/program/TableColumns.h"
-#include "suite/script/GridExport.h"
-#include "suite/script/Rows.h"
+#include "suite/terminal/TableRows.h"
 
 #include <filesystem>
 #include <fstream>
@@ -33,7 +34,7 @@ std::size_t tableWidth(bool terminal) {
 
 std::string itemOf(const host::TForm& dialog, const char* combo) {
     const auto& control = dynamic_cast<const host::TZTComboBox&>(dialog.Controle(combo));
-    return host::Trim(control.Itens()[static_cast<std::size_t>(control.ItemIndex())]);
+    return base::Trim(control.Itens()[static_cast<std::size_t>(control.ItemIndex())]);
 }
 
 std::vector<std::string> heading(const host::TForm& dialog, const ConsultOptions& options, const Login& login) {
@@ -49,15 +50,15 @@ std::vector<std::string> heading(const host::TForm& dialog, const ConsultOptions
 
 void writeTable(std::ostream& out, const host::TGrade& grid, const std::vector<std::string>& title, bool terminal) {
     for (const auto& line : title)
-        out << host::SemControles(line) << '\n';
+        out << base::SemControles(line) << '\n';
     out << '\n';
-    script::writeTable(out, *grid.DataSet(), tableColumns(grid), tableWidth(terminal), terminal);
+    terminal::writeTable(out, *grid.DataSet(), tableColumns(grid), tableWidth(terminal), terminal);
 }
 
 void writeFile(const host::TGrade& grid, const ConsultOptions& options, const std::vector<std::string>& title) {
     if (options.format != "tabela")
-        return script::exportGrid(grid, options.output, "." + options.format, title);
-    host::GravarArquivoInteiro(options.output, [&](const std::filesystem::path& file) {
+        return exporting::exportGrid(grid, options.output, "." + options.format, title);
+    base::GravarArquivoInteiro(options.output, [&](const std::filesystem::path& file) {
         std::ofstream out(file, std::ios::binary);
         out.exceptions(std::ios::failbit | std::ios::badbit);
         writeTable(out, grid, title, false);
@@ -67,18 +68,18 @@ void writeFile(const host::TGrade& grid, const ConsultOptions& options, const st
 
 void writeOutput(const host::TGrade& grid, const ConsultOptions& options, const std::vector<std::string>& title) {
     if (options.format == "json")
-        script::writeJson(std::cout, *grid.DataSet());
+        exporting::writeJson(std::cout, *grid.DataSet());
     else if (options.format == "csv")
-        script::writeCsv(std::cout, *grid.DataSet(), script::flatColumns(grid));
+        exporting::writeCsv(std::cout, *grid.DataSet(), exporting::flatColumns(grid));
     else
         writeTable(std::cout, grid, title, ::isatty(STDOUT_FILENO) != 0);
     std::cout.flush();
     if (!std::cout)
-        throw host::TFalha("Não foi possível escrever o resultado na saída.");
+        throw base::TFalha("Não foi possível escrever o resultado na saída.");
 }
 
 // The questions of the commit and the options that answer them: a value is the caption of its button in small letters.
-script::Headless::Answer answer(const host::TMensagem& question, const ConsultOptions& options) {
+terminal::Headless::Answer answer(const host::TMensagem& question, const ConsultOptions& options) {
     const struct {
         const char* option;
         const std::string& value;
@@ -110,13 +111,13 @@ const host::TGrade* resultGrid(const host::TForm& window) {
 
 } // namespace
 
-ExitCode runConsult(const ConsultOptions& options, const Login& login, script::Headless& interaction) {
+ExitCode runConsult(const ConsultOptions& options, const Login& login, terminal::Headless& interaction) {
     const bool book = options.format == "xlsx" || options.format == "html";
     if (book && options.output.empty())
-        throw host::TFalha("O formato " + options.format + " pede um arquivo: use também --saida.");
+        throw base::TFalha("O formato " + options.format + " pede um arquivo: use também --saida.");
     const auto factory = host::FindClass("TForm04618");
     if (!factory)
-        throw host::TFalha("O módulo carregado não tem a janela de consulta.");
+        throw base::TFalha("O módulo carregado não tem a janela de consulta.");
     const auto window = factory();
     window->InitializeForm();
     std::vector<std::string> title;

@@ -1,17 +1,17 @@
 #include "suite/program/DesktopCommand.h"
 
+#include "base/Falhas.h"
+#include "base/Texto.h"
 #include "demo/Demo.h"
 #include "host/DbManager.h"
-#include "host/Falhas.h"
 #include "host/Lookup.h"
 #include "host/Registro.h"
 #include "host/Servicos.h"
-#include "host/Texto.h"
+#include "suite/export/GridExport.h"
 #include "suite/firebird/Connection.h"
 #include "suite/program/LayoutStore.h"
 #include "suite/program/Module.h"
 #include "suite/program/UserFolder.h"
-#include "suite/script/GridExport.h"
 
 namespace suite::program {
 
@@ -26,7 +26,7 @@ constexpr const char* NoDisplay =
 // "1 - Matriz", of the row with that key.
 std::string codeAndName(const char* table, const char* key, const char* code, std::int64_t id) {
     const auto rows = host::BuscarInstanciaZTUtilsDbManager().AbrirConsultaSQL(
-        host::Format("SELECT %s AS CODIGO, NOME FROM %s WHERE %s = %d", {code, table, key, id}), "quem está conectado");
+        base::Format("SELECT %s AS CODIGO, NOME FROM %s WHERE %s = %d", {code, table, key, id}), "quem está conectado");
     if (rows->IsEmpty())
         return {};
     return rows->FieldByName("CODIGO").AsString() + " - " + rows->FieldByName("NOME").AsString();
@@ -48,7 +48,7 @@ class Session final : public desktop::DesktopSession {
         loggedIn_.emplace(services);
         const auto factory = host::FindClass("TForm04618");
         if (!factory)
-            throw host::TFalha("O módulo carregado não tem a janela de consulta.");
+            throw base::TFalha("O módulo carregado não tem a janela de consulta.");
         window_ = factory();
         window_->InitializeForm();
     }
@@ -72,7 +72,7 @@ class Session final : public desktop::DesktopSession {
 std::filesystem::path demoFileIfAny(const Options& options) {
     try {
         return defaultDemoFile();
-    } catch (const host::TFalha&) {
+    } catch (const base::TFalha&) {
         if (options.database.empty())
             throw;
         return {};
@@ -102,7 +102,7 @@ void exportLines(const host::TGrade& grid, const std::vector<std::uint32_t>& lin
     host::TGrade copy(grid.Nome(), source);
     copy.SetColunas(grid.Colunas());
     copy.RegraDaCelula = grid.RegraDaCelula;
-    script::exportGrid(copy, file, title);
+    exporting::exportGrid(copy, file, title);
 }
 
 } // namespace
@@ -130,7 +130,7 @@ desktop::DesktopProgram desktopProgram(const Options& options, const std::string
 
 ExitCode runDesktopCommand(const Options& options, Interrupt& interrupt) {
     if (!desktop::hasDisplay())
-        throw host::TFalha(NoDisplay);
+        throw base::TFalha(NoDisplay);
     const Module module(moduleFile());
     interrupt.onRequest(desktop::endDesktop);
     struct Detach {

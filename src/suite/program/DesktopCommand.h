@@ -1,13 +1,13 @@
 #pragma once
 
-#include "suite/desktop/Desktop.h"
+#include "suite/desktop/shell/Desktop.h"
 #include "suite/program/ExitCode.h"
 #include "suite/program/Interrupt.h"
 #include "suite/program/Options.h"
 
 namespace suite::program {
 
-// Opens the window on the desktop and returns when the user has left it. Throws host::TFalha without a screen, and what
+// Opens the window on the desktop and returns when the user has left it. Throws base::TFalha without a screen, and what
 // kept the database of the command line from being opened.
 ExitCode runDesktopCommand(const Options& options, Interrupt& interrupt);
 

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 
 namespace suite::program {
 
 enum class ExitCode { Done = 0, Refused = 1, WrongUse = 2, DatabaseFailure = 3, Cancelled = 4 };
 
-inline ExitCode exitCodeOf(const host::TFalhaBanco& failure) {
-    return failure.Tipo() == host::TTipoFalhaBanco::Cancelado ? ExitCode::Cancelled : ExitCode::DatabaseFailure;
+inline ExitCode exitCodeOf(const base::TFalhaBanco& failure) {
+    return failure.Tipo() == base::TTipoFalhaBanco::Cancelado ? ExitCode::Cancelled : ExitCode::DatabaseFailure;
 }
 
 } // namespace suite::program

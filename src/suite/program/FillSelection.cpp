@@ -1,8 +1,8 @@
 #include "suite/program/FillSelection.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
+#include "base/Texto.h"
 #include "host/Lookup.h"
-#include "host/Texto.h"
 #include "suite/script/FormDriver.h"
 
 #include <vector>
@@ -15,7 +15,7 @@ std::vector<std::string> split(std::string_view list) {
     std::vector<std::string> items;
     for (std::size_t begin = 0; begin <= list.size();) {
         const auto end = std::min(list.find(',', begin), list.size());
-        items.push_back(host::Trim(list.substr(begin, end - begin)));
+        items.push_back(base::Trim(list.substr(begin, end - begin)));
         begin = end + 1;
     }
     return items;
@@ -23,7 +23,7 @@ std::vector<std::string> split(std::string_view list) {
 
 class Filler {
   public:
-    Filler(host::TForm& dialog, const ConsultOptions& options, const script::Headless& interaction)
+    Filler(host::TForm& dialog, const ConsultOptions& options, const terminal::Headless& interaction)
         : dialog_(dialog), driver_(dialog), options_(options), interaction_(interaction) {}
 
     void run() {
@@ -58,14 +58,14 @@ class Filler {
     }
     void require(const char* option, const char* control, const char* why) {
         if (!dialog_.Controle(control).Enabled())
-            throw host::TFalha(std::string("A opção ") + option + " não se aplica: " + why + ". Retire a opção.");
+            throw base::TFalha(std::string("A opção ") + option + " não se aplica: " + why + ". Retire a opção.");
     }
     void choose(const char* option, const char* control, const std::string& value, const char* why) {
         require(option, control, why);
         driver_.define(control, value);
         const auto& lookup = dynamic_cast<const host::TZTLookupEx&>(dialog_.Controle(control));
         if (lookup.GetID() <= 0 && !lookup.GetResultSetMultiSelecao().Active())
-            throw host::TFalha(std::string("A opção ") + option + " não encontrou \"" + value + "\".");
+            throw base::TFalha(std::string("A opção ") + option + " não encontrou \"" + value + "\".");
         driver_.leave(control);
     }
     // One code is typed, several are marked.
@@ -91,7 +91,7 @@ class Filler {
                     wanted)
                     keys += (keys.empty() ? "#" : ",#") + search->FieldByName("IDFILIAL").AsString();
             if (keys.size() == before)
-                throw host::TFalha("A holding não tem o estabelecimento \"" + wanted +
+                throw base::TFalha("A holding não tem o estabelecimento \"" + wanted +
                                    "\". Informe empresa/estabelecimento, como 2/1.");
         }
         return keys;
@@ -100,11 +100,11 @@ class Filler {
     void statement() {
         constexpr const char* OnlyStatement = "ela pede \"--visualizar demonstracao\"";
         if (options_.view == "demonstracao" && options_.statement.empty())
-            throw host::TFalha("Informe a demonstração com --relatorio CODIGO.");
+            throw base::TFalha("Informe a demonstração com --relatorio CODIGO.");
         for (const auto& [option, value] :
              {std::pair{"--totais", options_.totals}, {"--dependencias", options_.dependencies}})
             if (!value.empty() && options_.view != "demonstracao")
-                throw host::TFalha(std::string("A opção ") + option + " não se aplica: " + OnlyStatement +
+                throw base::TFalha(std::string("A opção ") + option + " não se aplica: " + OnlyStatement +
                                    ". Retire a opção.");
         chooseCodes("--relatorio", "LkpRelatorioDemonstConfig", options_.statement, OnlyStatement);
         chooseCodes("--totalizadores", "LkpTotalizadorDemonstConfig", options_.totalizers, OnlyStatement);
@@ -116,7 +116,7 @@ class Filler {
                                   : detail == "estabelecimentos" ? "ChkDetalharTotalizadoresEstab"
                                                                  : nullptr;
             if (!control)
-                throw host::TFalha("--detalhar aceita estabelecimentos, centros e contas, e não \"" + detail + "\".");
+                throw base::TFalha("--detalhar aceita estabelecimentos, centros e contas, e não \"" + detail + "\".");
             tick("--detalhar", control, "este modo não tem esse detalhe");
         }
     }
@@ -149,7 +149,7 @@ class Filler {
             return;
         for (const auto& line : split(options_.lines))
             if (line != "B" && line != "O" && line != "R")
-                throw host::TFalha("--linhas aceita B, O e R, separadas por vírgula, e não \"" + line + "\".");
+                throw base::TFalha("--linhas aceita B, O e R, separadas por vírgula, e não \"" + line + "\".");
         const auto wanted = "," + options_.lines + ",";
         for (const auto& [letter, control] :
              {std::pair{"B", "ChkLinhaVlrBase"}, {"O", "ChkLinhaVlrOrcado"}, {"R", "ChkLinhaVlrRealizado"}}) {
@@ -157,7 +157,7 @@ class Filler {
             const bool on = wanted.find(std::string(",") + letter + ",") != std::string::npos;
             driver_.define(control, on ? "1" : "0");
             if (dynamic_cast<const host::TZTCheckBox&>(dialog_.Controle(control)).Checked() != on)
-                throw host::TFalha(std::string("A linha ") + letter +
+                throw base::TFalha(std::string("A linha ") + letter +
                                    " não pode sair: o percentual escolhido precisa dela.");
         }
     }
@@ -165,12 +165,12 @@ class Filler {
     host::TForm& dialog_;
     script::FormDriver driver_;
     const ConsultOptions& options_;
-    const script::Headless& interaction_;
+    const terminal::Headless& interaction_;
 };
 
 } // namespace
 
-void fillSelection(host::TForm& dialog, const ConsultOptions& options, const script::Headless& interaction) {
+void fillSelection(host::TForm& dialog, const ConsultOptions& options, const terminal::Headless& interaction) {
     Filler(dialog, options, interaction).run();
 }
 

@@ -1,6 +1,6 @@
 #include "suite/program/Interrupt.h"
 
-#include "host/Passageiros.h"
+#include "base/Passageiros.h"
 #include "suite/firebird/Api.h"
 #include "suite/program/ExitCode.h"
 
@@ -42,7 +42,7 @@ sigset_t watched() {
 
 [[noreturn]] void endAtOnce(const char* sentence, ExitCode code) {
     static_cast<void>(!::write(STDERR_FILENO, sentence, std::strlen(sentence)));
-    host::RemoverPassageiros();
+    base::RemoverPassageiros();
     std::_Exit(static_cast<int>(code));
 }
 

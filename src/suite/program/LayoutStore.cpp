@@ -1,7 +1,7 @@
 #include "suite/program/LayoutStore.h"
 
-#include "host/ArquivoInteiro.h"
-#include "host/Falhas.h"
+#include "base/ArquivoInteiro.h"
+#include "base/Falhas.h"
 
 #include <algorithm>
 #include <charconv>
@@ -115,7 +115,7 @@ path LayoutStore::folderOf(const host::TDonoLeiautes& owner) const {
 path LayoutStore::fileOf(const host::TDonoLeiautes& owner, const std::string& name) const {
     const auto fileName = encoded(name);
     if (fileName.size() > LongestFileName)
-        throw host::TFalha("O nome do leiaute é longo demais. Escolha um mais curto.");
+        throw base::TFalha("O nome do leiaute é longo demais. Escolha um mais curto.");
     return folderOf(owner) / (fileName + Ending);
 }
 
@@ -123,7 +123,7 @@ std::vector<std::string> LayoutStore::Listar(const host::TDonoLeiautes& owner) c
     path folder;
     try {
         folder = folderOf(owner);
-    } catch (const host::TFalha&) { // a user without a home has kept nothing
+    } catch (const base::TFalha&) { // a user without a home has kept nothing
         return {};
     }
     std::vector<std::string> names;
@@ -133,7 +133,7 @@ std::vector<std::string> LayoutStore::Listar(const host::TDonoLeiautes& owner) c
                 names.push_back(*name);
     } catch (const std::system_error& failure) {
         if (failure.code() != std::errc::no_such_file_or_directory) // nothing has been kept yet
-            throw host::TFalha("Não foi possível ler a pasta de leiautes " + folder.string() +
+            throw base::TFalha("Não foi possível ler a pasta de leiautes " + folder.string() +
                                ". Verifique as permissões.");
     }
     std::sort(names.begin(), names.end());
@@ -145,10 +145,10 @@ host::TLeiaute LayoutStore::Ler(const host::TDonoLeiautes& owner, const std::str
     host::TLeiaute layout;
     const auto finding = read(file, layout);
     if (finding == Finding::Newer)
-        throw host::TFalha("O leiaute \"" + name + "\" foi gravado por uma versão mais nova do programa e não foi " +
+        throw base::TFalha("O leiaute \"" + name + "\" foi gravado por uma versão mais nova do programa e não foi " +
                            "aplicado. O arquivo " + file.string() + " ficou como está.");
     if (finding == Finding::Damaged)
-        throw host::TFalha("O leiaute \"" + name + "\" não pôde ser lido e não foi aplicado. O arquivo " +
+        throw base::TFalha("O leiaute \"" + name + "\" não pôde ser lido e não foi aplicado. O arquivo " +
                            file.string() + " ficou como está.");
     return layout;
 }
@@ -160,14 +160,14 @@ void LayoutStore::Gravar(const host::TDonoLeiautes& owner, const std::string& na
         host::TLeiaute former;
         if (std::filesystem::exists(file) && read(file, former) != Finding::Whole)
             moveAside(file);
-        host::GravarArquivoInteiro(file, [&](const path& aside) {
+        base::GravarArquivoInteiro(file, [&](const path& aside) {
             std::ofstream out(aside, std::ios::binary);
             out.exceptions(std::ios::failbit | std::ios::badbit);
             out << textOf(layout);
             out.close();
         });
     } catch (const std::system_error&) {
-        throw host::TFalha("Não foi possível gravar o leiaute em " + file.string() +
+        throw base::TFalha("Não foi possível gravar o leiaute em " + file.string() +
                            ". Verifique as permissões e o espaço em disco.");
     }
 }
@@ -177,7 +177,7 @@ void LayoutStore::Excluir(const host::TDonoLeiautes& owner, const std::string& n
     std::error_code failure;
     std::filesystem::remove(file, failure);
     if (failure)
-        throw host::TFalha("Não foi possível excluir o leiaute " + file.string() + ". Verifique as permissões.");
+        throw base::TFalha("Não foi possível excluir o leiaute " + file.string() + ". Verifique as permissões.");
 }
 
 } // namespace suite::program

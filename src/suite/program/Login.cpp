@@ -1,15 +1,15 @@
 #include "suite/program/Login.h"
 
+#include "base/Falhas.h"
+#include "base/Texto.h"
 #include "host/DbManager.h"
-#include "host/Falhas.h"
-#include "host/Texto.h"
 #include "suite/program/UserFolder.h"
 
 namespace suite::program {
 
 namespace {
 
-using host::Format;
+using base::Format;
 
 std::unique_ptr<host::TDataSet> query(const std::string& text, const char* name) {
     return host::BuscarInstanciaZTUtilsDbManager().AbrirConsultaSQL(text, name);
@@ -33,7 +33,7 @@ std::int64_t find(const std::string& table, const std::string& key, const std::s
     if (!rows->IsEmpty())
         return rows->GetInt64FieldValue(key);
     if (wanted)
-        throw host::TFalha("Não existe " + std::string(what) + " com o código " + std::to_string(*wanted) +
+        throw base::TFalha("Não existe " + std::string(what) + " com o código " + std::to_string(*wanted) +
                            " neste banco de dados. Verifique o código.");
     return 0;
 }
@@ -44,8 +44,8 @@ void requireLogFolder(const std::filesystem::path& folder) {
     if (folder.empty() || std::filesystem::is_directory(status))
         return;
     if (status.type() == std::filesystem::file_type::not_found)
-        throw host::TFalha("A pasta de log \"" + folder.string() + "\" não existe. Crie-a ou indique outra.");
-    throw host::TFalha("A pasta de log \"" + folder.string() + "\" não pode ser usada: " +
+        throw base::TFalha("A pasta de log \"" + folder.string() + "\" não existe. Crie-a ou indique outra.");
+    throw base::TFalha("A pasta de log \"" + folder.string() + "\" não pode ser usada: " +
                        (failure ? "verifique as permissões" : "é um arquivo") + ". Indique outra.");
 }
 
@@ -55,7 +55,7 @@ Login::Login(const LoginRequest& request) : logFolder_(request.logFolder) {
     requireLogFolder(logFolder_);
     const auto company = find("SC00_EMPRESA", "IDEMPRESA", "EMPRESA", "", request.company, "empresa");
     if (company == 0)
-        throw host::TFalha("O banco de dados não tem nenhuma empresa cadastrada.");
+        throw base::TFalha("O banco de dados não tem nenhuma empresa cadastrada.");
     company_ = BuscarDadosEmpresa(company);
     establishment_ = find("SC00_FILIAL", "IDFILIAL", "FILIAL", Format(" WHERE SC00_FILIAL.IDEMPRESA = %d", {company}),
                           request.establishment, "estabelecimento");
@@ -88,7 +88,7 @@ SELECT SC00_EMPRESA.EMPRESA,
                                    {company}),
                             "dados da empresa");
     if (rows->IsEmpty())
-        throw host::TFalha("A empresa de registro " + std::to_string(company) + " não existe.");
+        throw base::TFalha("A empresa de registro " + std::to_string(company) + " não existe.");
     return {company, rows->GetInt64FieldValue("EMPRESA"), rows->FieldByName("NOME").AsString(),
             rows->GetInt64FieldValue("CONTROLADAS") > 0};
 }

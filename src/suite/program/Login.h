@@ -18,7 +18,7 @@ struct LoginRequest {
 };
 
 // The logged company, establishment and user, and what the suite knows of companies. Reads through the host's
-// connection, which must be installed. The constructor throws host::TFalha when there is no such company,
+// connection, which must be installed. The constructor throws base::TFalha when there is no such company,
 // establishment or user.
 class Login final : public host::TZTEmpresaLogada, public host::TUtilContabil, public host::TUtilSistema {
   public:

@@ -1,6 +1,6 @@
 #include "suite/program/Module.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 
 #include <dlfcn.h>
 #include <link.h>
@@ -27,14 +27,14 @@ void Module::Unload::operator()(void* handle) const noexcept { ::dlclose(handle)
 
 Module::Module(const std::filesystem::path& file) : handle_(::dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL)) {
     if (!handle_)
-        throw host::TFalha("O módulo " + file.filename().string() +
+        throw base::TFalha("O módulo " + file.filename().string() +
                            " não pôde ser carregado. Refaça a instalação do programa. (" + ::dlerror() + ")");
     auto* const address = ::dlsym(handle_.get(), "InformacoesDoPacote");
     if (const auto function =
             reinterpret_cast<host::TFuncaoInformacoesDoPacote>(address ? functionAt(address) : nullptr))
         information_ = function();
     if (!information_)
-        throw host::TFalha("O arquivo " + file.string() + " não é um módulo deste programa.");
+        throw base::TFalha("O arquivo " + file.string() + " não é um módulo deste programa.");
 }
 
 std::string_view Module::versionRecord(std::string_view key) const {

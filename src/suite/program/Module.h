@@ -12,7 +12,7 @@ namespace suite::program {
 // gone by then.
 class Module {
   public:
-    // Throws host::TFalha when the file is not there or is no module.
+    // Throws base::TFalha when the file is not there or is no module.
     explicit Module(const std::filesystem::path& file);
 
     const host::TInformacoesPacote& information() const { return *information_; }

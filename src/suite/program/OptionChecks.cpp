@@ -1,6 +1,6 @@
 #include "suite/program/OptionChecks.h"
 
-#include "host/Texto.h"
+#include "base/Texto.h"
 
 #include <charconv>
 #include <filesystem>
@@ -69,7 +69,7 @@ CLI::Validator list(std::function<std::string(std::string&)> item) {
                 std::string whole;
                 for (std::size_t begin = 0; begin <= given.size();) {
                     const auto end = std::min(given.find(',', begin), given.size());
-                    auto text = host::Trim(std::string_view(given).substr(begin, end - begin));
+                    auto text = base::Trim(std::string_view(given).substr(begin, end - begin));
                     begin = end + 1;
                     if (text.empty())
                         return "falta um valor na lista " + inQuotes(given);

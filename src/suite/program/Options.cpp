@@ -1,6 +1,6 @@
 #include "suite/program/Options.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 #include "suite/program/OptionChecks.h"
 #include "suite/program/UserFolder.h"
 
@@ -22,7 +22,7 @@ std::string readPassword(const std::string& file) {
     std::ifstream in(file);
     std::string line;
     if (!in || !std::getline(in, line))
-        throw host::TFalha("Não foi possível ler a senha do arquivo " + file +
+        throw base::TFalha("Não foi possível ler a senha do arquivo " + file +
                            ". Verifique o caminho e as permissões.");
     if (!line.empty() && line.back() == '\r')
         line.pop_back();

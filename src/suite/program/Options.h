@@ -61,10 +61,10 @@ struct ParsedLine {
     bool failed = false;
 };
 
-// The version is asked for only where the line does. Throws host::TFalha when the password file cannot be read.
+// The version is asked for only where the line does. Throws base::TFalha when the password file cannot be read.
 ParsedLine parseCommandLine(int argc, const char* const* argv, const std::function<std::string()>& version);
 
-// Where the demo database of this user lives. Throws host::TFalha as userFolder does.
+// Where the demo database of this user lives. Throws base::TFalha as userFolder does.
 std::filesystem::path defaultDemoFile();
 
 } // namespace suite::program

@@ -1,6 +1,6 @@
 #include "suite/program/ProcessStart.h"
 
-#include "host/Passageiros.h"
+#include "base/Passageiros.h"
 #include "suite/firebird/Api.h"
 #include "suite/program/ExitCode.h"
 
@@ -37,7 +37,7 @@ extern "C" void onCrash(int number) {
     }
     const char* sentence = number == SIGBUS ? FullDiskSentence : DamagedSentence;
     static_cast<void>(!::write(STDERR_FILENO, sentence, std::strlen(sentence)));
-    host::RemoverPassageiros();
+    base::RemoverPassageiros();
     ::_exit(static_cast<int>(ExitCode::DatabaseFailure));
 }
 

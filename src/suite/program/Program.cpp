@@ -1,9 +1,9 @@
 #include "suite/program/Program.h"
 
+#include "base/Falhas.h"
+#include "base/Texto.h"
 #include "demo/Demo.h"
-#include "host/Falhas.h"
 #include "host/Servicos.h"
-#include "host/Texto.h"
 #include "suite/firebird/Connection.h"
 #include "suite/program/ConsultCommand.h"
 #include "suite/program/DesktopCommand.h"
@@ -14,8 +14,8 @@
 #include "suite/program/ScriptCommand.h"
 #include "suite/program/UserFolder.h"
 #include "suite/program/VerifyCommand.h"
-#include "suite/script/Headless.h"
-#include "suite/script/TerminalProgress.h"
+#include "suite/terminal/Headless.h"
+#include "suite/terminal/TerminalProgress.h"
 
 #include <iostream>
 #include <unistd.h>
@@ -29,7 +29,7 @@ class Cancelled {};
 bool onTerminal() { return ::isatty(STDERR_FILENO) != 0; }
 
 void makeDemo(const std::filesystem::path& file, int scale, Interrupt& interrupt) {
-    script::TerminalProgress progress(std::cerr, onTerminal());
+    terminal::TerminalProgress progress(std::cerr, onTerminal());
     try {
         demo::Criar({file, scale, [&](const std::string& text, std::size_t done, std::size_t total) {
                          if (interrupt.requested())
@@ -48,7 +48,7 @@ ExitCode runDemo(const DemoOptions& options, Interrupt& interrupt) {
     if (options.destination.empty())
         makeFolder(file.parent_path());
     makeDemo(file, options.scale, interrupt);
-    std::cout << "Banco de demonstração criado em " << host::SemControles(std::filesystem::absolute(file).string())
+    std::cout << "Banco de demonstração criado em " << base::SemControles(std::filesystem::absolute(file).string())
               << "\n";
     return ExitCode::Done;
 }
@@ -60,7 +60,7 @@ std::string databaseOf(const Options& options, Interrupt& interrupt) {
     const auto file = defaultDemoFile();
     makeFolder(file.parent_path());
     if (!std::filesystem::exists(file)) {
-        std::cerr << "Criando o banco de demonstração em " << host::SemControles(file.string()) << "\n";
+        std::cerr << "Criando o banco de demonstração em " << base::SemControles(file.string()) << "\n";
         makeDemo(file, 1, interrupt);
     }
     return file.string();
@@ -78,7 +78,7 @@ ExitCode runOnDatabase(const Options& options, Interrupt& interrupt) {
     if (options.verify)
         return runVerify(connection.attachment());
 
-    script::Headless interaction(std::cerr, onTerminal());
+    terminal::Headless interaction(std::cerr, onTerminal());
     interaction.onCancelQuery = [&] { return interrupt.requested(); };
     host::TServicos services;
     services.Conexao = &connection;
@@ -103,8 +103,8 @@ std::string versionOfAll() {
     try {
         const Module module(moduleFile());
         return versionText(&module);
-    } catch (const host::TFalha& failure) {
-        std::cerr << host::LinhasSemControles(failure.what()) << "\n";
+    } catch (const base::TFalha& failure) {
+        std::cerr << base::LinhasSemControles(failure.what()) << "\n";
         return versionText(nullptr);
     }
 }
@@ -117,11 +117,11 @@ ExitCode runCommand(const Options& options, Interrupt& interrupt) {
     return runDesktopCommand(options, interrupt);
 }
 
-ExitCode report(const host::TFalhaBanco& failure) {
-    std::cerr << host::LinhasSemControles(failure.what()) << "\n";
+ExitCode report(const base::TFalhaBanco& failure) {
+    std::cerr << base::LinhasSemControles(failure.what()) << "\n";
     const auto code = exitCodeOf(failure);
     if (code == ExitCode::DatabaseFailure)
-        std::cerr << "(" << host::LinhasSemControles(failure.Diagnostico()) << ")\n";
+        std::cerr << "(" << base::LinhasSemControles(failure.Diagnostico()) << ")\n";
     return code;
 }
 
@@ -131,7 +131,7 @@ ExitCode run(int argc, const char* const* argv) {
     Interrupt interrupt;
     try {
         const auto line = parseCommandLine(argc, argv, versionOfAll);
-        const auto text = host::LinhasSemControles(line.text);
+        const auto text = base::LinhasSemControles(line.text);
         if (line.failed) {
             std::cerr << text;
             return ExitCode::WrongUse;
@@ -139,18 +139,18 @@ ExitCode run(int argc, const char* const* argv) {
         std::cout << text;
         const auto code = line.options ? runCommand(*line.options, interrupt) : ExitCode::Done;
         if (!std::cout.flush() && code == ExitCode::Done)
-            throw host::TFalha("Não foi possível escrever o resultado na saída.");
+            throw base::TFalha("Não foi possível escrever o resultado na saída.");
         return code;
     } catch (const Cancelled&) {
         std::cerr << "A operação foi cancelada; nada ficou pela metade.\n";
         return ExitCode::Cancelled;
-    } catch (const host::TFalhaBanco& failure) {
+    } catch (const base::TFalhaBanco& failure) {
         return report(failure);
-    } catch (const host::TFalha& failure) {
-        std::cerr << host::LinhasSemControles(failure.what()) << "\n";
+    } catch (const base::TFalha& failure) {
+        std::cerr << base::LinhasSemControles(failure.what()) << "\n";
         return ExitCode::Refused;
     } catch (const std::exception& fault) {
-        std::cerr << "O programa encontrou uma falha interna e parou: " << host::LinhasSemControles(fault.what())
+        std::cerr << "O programa encontrou uma falha interna e parou: " << base::LinhasSemControles(fault.what())
                   << "\n";
         return ExitCode::Refused;
     }

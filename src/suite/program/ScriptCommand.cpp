@@ -1,8 +1,8 @@
 #include "suite/program/ScriptCommand.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
+#include "base/Texto.h"
 #include "host/Registro.h"
-#include "host/Texto.h"
 #include "suite/script/ScriptRunner.h"
 
 #include <fstream>
@@ -20,13 +20,13 @@ ExitCode play(std::istream& script, const host::TFabricaDeForm& window, const st
         runner.run();
     } catch (const script::ScriptFailure& failure) {
         std::cout.flush();
-        std::cerr << host::LinhasSemControles(failure.what()) << "\n";
+        std::cerr << base::LinhasSemControles(failure.what()) << "\n";
         code = failure.kind() == script::ScriptFailure::Kind::WrongStep ? ExitCode::WrongUse : ExitCode::Refused;
     }
     if (const auto& failure = runner.databaseFailure())
-        throw host::TFalhaBanco(*failure);
+        throw base::TFalhaBanco(*failure);
     if (code == ExitCode::Done && !std::cout)
-        throw host::TFalha("Não foi possível escrever o resultado na saída.");
+        throw base::TFalha("Não foi possível escrever o resultado na saída.");
     return code;
 }
 
@@ -35,7 +35,7 @@ ExitCode play(std::istream& script, const host::TFabricaDeForm& window, const st
 ExitCode runScript(const ScriptOptions& options, const std::function<bool()>& cancelled) {
     const auto window = host::FindClass("TForm04618");
     if (!window)
-        throw host::TFalha("O módulo carregado não tem a janela de consulta.");
+        throw base::TFalha("O módulo carregado não tem a janela de consulta.");
     if (options.file == "-")
         return play(std::cin, window, cancelled);
     std::ifstream file(options.file);

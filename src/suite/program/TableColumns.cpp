@@ -1,7 +1,7 @@
 #include "suite/program/TableColumns.h"
 
-#include "host/Texto.h"
-#include "suite/script/GridExport.h"
+#include "base/Texto.h"
+#include "suite/export/GridExport.h"
 
 #include <map>
 
@@ -31,16 +31,16 @@ Manner mannerOf(std::string_view field) {
     if (const auto known = Manners.find(field); known != Manners.end())
         return known->second;
     if (field.starts_with(PeriodValue))
-        return {5 + host::NumeroOuZero(field.substr(PeriodValue.size())), false};
+        return {5 + base::NumeroOuZero(field.substr(PeriodValue.size())), false};
     if (field.starts_with(PeriodPercentage))
-        return {60 + host::NumeroOuZero(field.substr(PeriodPercentage.size())), true};
+        return {60 + base::NumeroOuZero(field.substr(PeriodPercentage.size())), true};
     return {0, false};
 }
 
 } // namespace
 
-std::vector<script::ShownColumn> tableColumns(const host::TGrade& grid) {
-    auto columns = script::flatColumns(grid);
+std::vector<exporting::ShownColumn> tableColumns(const host::TGrade& grid) {
+    auto columns = exporting::flatColumns(grid);
     for (auto& column : columns) {
         const auto manner = mannerOf(column.field);
         column.rank = manner.rank;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/Grade.h"
-#include "suite/script/Rows.h"
+#include "suite/export/Rows.h"
 
 #include <vector>
 
@@ -9,6 +9,6 @@ namespace suite::program {
 
 // The columns in view of a grid as a table for people shows them: which give way first where the room is narrow, and
 // where a zero says nothing.
-std::vector<script::ShownColumn> tableColumns(const host::TGrade& grid);
+std::vector<exporting::ShownColumn> tableColumns(const host::TGrade& grid);
 
 } // namespace suite::program

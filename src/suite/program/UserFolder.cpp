@@ -1,6 +1,6 @@
 #include "suite/program/UserFolder.h"
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 
 #include <cstdlib>
 #include <pwd.h>
@@ -28,7 +28,7 @@ std::filesystem::path chooseHome(const char* variable, const char* account) {
     for (const char* folder : {variable, account})
         if (absolute(folder))
             return folder;
-    throw host::TFalha(
+    throw base::TFalha(
         "Não se sabe qual é a sua pasta pessoal. Defina HOME com um caminho completo, ou indique o banco "
         "de dados com --banco e a pasta de log com --pasta-log.");
 }
@@ -44,7 +44,7 @@ void makeFolder(const std::filesystem::path& folder) {
     std::error_code failure;
     std::filesystem::create_directories(folder, failure);
     if (failure || ::access(folder.c_str(), X_OK) != 0)
-        throw host::TFalha("Não foi possível criar ou usar a pasta " + folder.string() +
+        throw base::TFalha("Não foi possível criar ou usar a pasta " + folder.string() +
                            ". Verifique as permissões e o que HOME indica, ou indique o banco de dados com --banco.");
 }
 

@@ -1,9 +1,9 @@
 #include "suite/program/VerifyCommand.h"
 
-#include "host/Falhas.h"
-#include "host/Texto.h"
-#include "suite/program/DataChecks.h"
-#include "suite/program/NoticeChecks.h"
+#include "base/Falhas.h"
+#include "base/Texto.h"
+#include "suite/verify/DataChecks.h"
+#include "suite/verify/NoticeChecks.h"
 
 #include <iostream>
 
@@ -39,12 +39,12 @@ std::string summary(std::size_t stops, std::size_t slow, std::size_t notices) {
     if (!all.empty())
         return "O banco de dados serve, com " + all + ".";
     std::size_t columns = 0;
-    for (const auto& table : ExpectedTables)
+    for (const auto& table : verify::ExpectedTables)
         for (const auto& list :
              {table.keys, table.codes, table.amounts, table.rates, table.dates, table.texts, table.others})
-            columns += words(list).size();
-    return "O banco de dados serve: " + std::to_string(std::size(ExpectedTables)) + " tabelas, " +
-           std::to_string(columns) + " colunas e " + std::to_string(std::size(ExpectedIndexes)) +
+            columns += verify::words(list).size();
+    return "O banco de dados serve: " + std::to_string(std::size(verify::ExpectedTables)) + " tabelas, " +
+           std::to_string(columns) + " colunas e " + std::to_string(std::size(verify::ExpectedIndexes)) +
            " índices conferidos.";
 }
 
@@ -52,27 +52,27 @@ std::string summary(std::size_t stops, std::size_t slow, std::size_t notices) {
 
 ExitCode runVerify(firebird::Attachment& attachment) {
     firebird::Transaction transaction(attachment, firebird::TransactionMode::ReadOnly);
-    auto schema = readSchema(transaction);
-    Findings stops;
-    checkTables(schema, stops);
-    checkInserts(schema, stops);
-    checkGenerator(transaction, schema, stops);
-    checkCycles(transaction, schema, stops);
-    checkBooks(transaction, schema, stops);
-    Findings slow;
-    checkIndexes(schema, slow);
-    Findings notices;
-    checkRepeats(transaction, schema, notices);
-    checkLimits(transaction, schema, notices);
+    auto schema = verify::readSchema(transaction);
+    verify::Findings stops;
+    verify::checkTables(schema, stops);
+    verify::checkInserts(schema, stops);
+    verify::checkGenerator(transaction, schema, stops);
+    verify::checkCycles(transaction, schema, stops);
+    verify::checkBooks(transaction, schema, stops);
+    verify::Findings slow;
+    verify::checkIndexes(schema, slow);
+    verify::Findings notices;
+    verify::checkRepeats(transaction, schema, notices);
+    verify::checkLimits(transaction, schema, notices);
     for (const auto& line : stops)
-        std::cout << "impede: " << host::SemControles(line) << '\n';
+        std::cout << "impede: " << base::SemControles(line) << '\n';
     for (const auto& line : slow)
-        std::cout << "lento: " << host::SemControles(line) << '\n';
+        std::cout << "lento: " << base::SemControles(line) << '\n';
     for (const auto& line : notices)
-        std::cout << "aviso: " << host::SemControles(line) << '\n';
+        std::cout << "aviso: " << base::SemControles(line) << '\n';
     std::cout << summary(stops.size(), slow.size(), notices.size()) << std::endl;
     if (!std::cout)
-        throw host::TFalha("Não foi possível escrever o resultado na saída.");
+        throw base::TFalha("Não foi possível escrever o resultado na saída.");
     return stops.empty() ? ExitCode::Done : ExitCode::Refused;
 }
 

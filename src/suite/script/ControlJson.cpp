@@ -27,39 +27,39 @@ const char* kindOf(const host::TControle& control) {
     return "componente";
 }
 
-void describe(JsonObject& members, const host::TZTComboBox& combo) {
+void describe(exporting::JsonObject& members, const host::TZTComboBox& combo) {
     const auto index = static_cast<std::size_t>(combo.ItemIndex());
     const bool chosen = combo.ItemIndex() >= 0;
-    members.add("valor", chosen ? quoteJson(combo.GetValorSelecionado()) : "null")
-        .add("texto", chosen ? quoteJson(combo.Itens()[index]) : "null")
-        .add("itens", jsonTexts(combo.Itens()))
-        .add("valores", jsonTexts(combo.Valores()));
+    members.add("valor", chosen ? exporting::quoteJson(combo.GetValorSelecionado()) : "null")
+        .add("texto", chosen ? exporting::quoteJson(combo.Itens()[index]) : "null")
+        .add("itens", exporting::jsonTexts(combo.Itens()))
+        .add("valores", exporting::jsonTexts(combo.Valores()));
 }
 
-void describe(JsonObject& members, const host::TZTDateEdit& date) {
-    members.add("valor", date.Date().Vazia() ? "null" : quoteJson(date.Date().TextoIso()))
-        .add("texto", quoteJson(date.Texto()));
+void describe(exporting::JsonObject& members, const host::TZTDateEdit& date) {
+    members.add("valor", date.Date().Vazia() ? "null" : exporting::quoteJson(date.Date().TextoIso()))
+        .add("texto", exporting::quoteJson(date.Texto()));
 }
 
-void describe(JsonObject& members, const host::TZTLookupEx& lookup) {
+void describe(exporting::JsonObject& members, const host::TZTLookupEx& lookup) {
     const auto& marked = lookup.GetResultSetMultiSelecao();
     std::vector<std::string> keys;
     if (const auto* key = marked.FindField(lookup.Definicao().CampoChave))
         for (std::size_t i = 0; i < marked.RecordCount(); ++i)
-            keys.push_back(jsonValue(marked.Colunas()[key->Indice()].Valor(marked.LinhaDe(i))));
+            keys.push_back(exporting::jsonValue(marked.Colunas()[key->Indice()].Valor(marked.LinhaDe(i))));
     members.add("valor", std::to_string(lookup.GetID()))
-        .add("texto", quoteJson(lookup.Texto()))
-        .add("ids", jsonList(keys))
-        .add("ativo", jsonFlag(marked.Active()));
+        .add("texto", exporting::quoteJson(lookup.Texto()))
+        .add("ids", exporting::jsonList(keys))
+        .add("ativo", exporting::jsonFlag(marked.Active()));
 }
 
 } // namespace
 
-JsonObject describeControl(const host::TControle& control) {
-    JsonObject members;
-    members.add("tipo", quoteJson(kindOf(control)))
-        .add("habilitado", jsonFlag(control.Enabled()))
-        .add("visivel", jsonFlag(control.Visible()));
+exporting::JsonObject describeControl(const host::TControle& control) {
+    exporting::JsonObject members;
+    members.add("tipo", exporting::quoteJson(kindOf(control)))
+        .add("habilitado", exporting::jsonFlag(control.Enabled()))
+        .add("visivel", exporting::jsonFlag(control.Visible()));
     if (const auto* combo = dynamic_cast<const host::TZTComboBox*>(&control)) {
         describe(members, *combo);
     } else if (const auto* date = dynamic_cast<const host::TZTDateEdit*>(&control)) {
@@ -68,8 +68,8 @@ JsonObject describeControl(const host::TControle& control) {
         describe(members, *lookup);
     } else {
         if (const auto* box = dynamic_cast<const host::TZTCheckBox*>(&control))
-            members.add("marcado", jsonFlag(box->Checked()));
-        members.add("texto", quoteJson(control.Caption()));
+            members.add("marcado", exporting::jsonFlag(box->Checked()));
+        members.add("texto", exporting::quoteJson(control.Caption()));
     }
     return members;
 }

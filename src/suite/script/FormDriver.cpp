@@ -1,7 +1,7 @@
 #include "suite/script/FormDriver.h"
 
+#include "base/Texto.h"
 #include "host/Lookup.h"
-#include "host/Texto.h"
 
 #include <algorithm>
 
@@ -31,7 +31,7 @@ std::vector<std::size_t> rowsOf(const host::TZTLookupEx& lookup, const host::TDa
     std::vector<std::size_t> rows;
     while (!list.empty()) {
         const auto comma = std::min(list.find(','), list.size());
-        const auto item = host::Trim(list.substr(0, comma));
+        const auto item = base::Trim(list.substr(0, comma));
         list.remove_prefix(std::min(comma + 1, list.size()));
         const bool key = item.starts_with('#');
         const auto* field = search.FindField(key ? lookup.Definicao().CampoChave : lookup.Definicao().CampoPesquisa);
@@ -64,7 +64,7 @@ template <class TAct>
 void asUser(TAct act) {
     try {
         act();
-    } catch (const host::Abort&) { // the rule has told the user
+    } catch (const base::Abort&) { // the rule has told the user
     }
 }
 
@@ -78,7 +78,7 @@ void requireEnabled(const host::TControle& control) {
 host::TControle& FormDriver::control(const host::TForm& form, std::string_view name) {
     try {
         return form.Controle(name);
-    } catch (const host::TFalha& unknown) {
+    } catch (const base::TFalha& unknown) {
         throw WrongUse(unknown.what());
     }
 }

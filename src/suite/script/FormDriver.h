@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/Falhas.h"
+#include "base/Falhas.h"
 #include "host/Formularios.h"
 
 #include <string>
@@ -9,9 +9,9 @@
 namespace suite::script {
 
 // What no user could do: an unknown name, a disabled control, a value that the control does not take.
-class WrongUse : public host::TFalha {
+class WrongUse : public base::TFalha {
   public:
-    using host::TFalha::TFalha;
+    using base::TFalha::TFalha;
 };
 
 // What a user does to a form, by the names of its controls. What no user could do is a WrongUse. An Abort of a rule

@@ -24,29 +24,29 @@ std::string formatOf(const host::TGrade& grid, const host::TColunaGrade& column)
 std::string describeColumns(const host::TGrade& grid) {
     std::vector<std::string> columns;
     for (const auto& column : grid.Colunas()) {
-        JsonObject members;
-        members.add("campo", quoteJson(column.Campo))
-            .add("titulo", quoteJson(column.Titulo))
-            .add("faixa", jsonTextOrNull(column.Faixa))
-            .add("visivel", jsonFlag(column.Visivel))
-            .add("formato", jsonTextOrNull(formatOf(grid, column)))
+        exporting::JsonObject members;
+        members.add("campo", exporting::quoteJson(column.Campo))
+            .add("titulo", exporting::quoteJson(column.Titulo))
+            .add("faixa", exporting::jsonTextOrNull(column.Faixa))
+            .add("visivel", exporting::jsonFlag(column.Visivel))
+            .add("formato", exporting::jsonTextOrNull(formatOf(grid, column)))
             .add("grupo", column.Grupo < 0 ? "null" : std::to_string(column.Grupo));
         columns.push_back(members.text());
     }
-    return jsonList(columns);
+    return exporting::jsonList(columns);
 }
 
-JsonObject describeCells(const host::TGrade& grid, std::size_t row, bool selected) {
-    JsonObject cells;
+exporting::JsonObject describeCells(const host::TGrade& grid, std::size_t row, bool selected) {
+    exporting::JsonObject cells;
     for (const auto& column : grid.Colunas()) {
         const auto cell = grid.Celula(row, column, selected);
         const auto look = grid.Aparencia(cell);
-        JsonObject members;
-        members.add("texto", quoteJson(cell.Texto()))
-            .add("negrito", jsonFlag(look.Negrito))
+        exporting::JsonObject members;
+        members.add("texto", exporting::quoteJson(cell.Texto()))
+            .add("negrito", exporting::jsonFlag(look.Negrito))
             .add("fonte", colour(look.Fonte))
             .add("fundo", colour(look.Fundo))
-            .add("vazio", jsonFlag(look.Vazio));
+            .add("vazio", exporting::jsonFlag(look.Vazio));
         cells.add(column.Campo, members.text());
     }
     return cells;

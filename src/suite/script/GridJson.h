@@ -1,13 +1,13 @@
 #pragma once
 
 #include "host/Grade.h"
-#include "suite/script/Json.h"
+#include "suite/export/Json.h"
 
 namespace suite::script {
 
 // [{"campo":...,"titulo":...,"faixa":...,"visivel":...,"formato":...,"grupo":...},...]
 std::string describeColumns(const host::TGrade& grid);
 // Of each column, by its field, how the cell of that row is shown. The row is a position from 0 in the dataset's order.
-JsonObject describeCells(const host::TGrade& grid, std::size_t row, bool selected);
+exporting::JsonObject describeCells(const host::TGrade& grid, std::size_t row, bool selected);
 
 } // namespace suite::script

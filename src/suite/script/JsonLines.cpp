@@ -1,17 +1,19 @@
 #include "suite/script/JsonLines.h"
 
-#include "suite/script/Rows.h"
+#include "suite/export/Rows.h"
 
 namespace suite::script {
 
 std::ostream& JsonLines::begin(std::string_view type) {
-    return out_ << "{\"passo\":" << line_ << ",\"tipo\":" << quoteJson(type) << ',';
+    return out_ << "{\"passo\":" << line_ << ",\"tipo\":" << exporting::quoteJson(type) << ',';
 }
 
-void JsonLines::write(std::string_view type, const JsonObject& members) { begin(type) << members.members() << "}\n"; }
+void JsonLines::write(std::string_view type, const exporting::JsonObject& members) {
+    begin(type) << members.members() << "}\n";
+}
 
 void JsonLines::writeRows(const host::TDataSet& rows) {
-    writeJsonMembers(begin("linhas"), rows);
+    exporting::writeJsonMembers(begin("linhas"), rows);
     out_ << "}\n";
 }
 

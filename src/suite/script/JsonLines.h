@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/DataSet.h"
-#include "suite/script/Json.h"
+#include "suite/export/Json.h"
 
 #include <ostream>
 
@@ -14,7 +14,7 @@ class JsonLines {
 
     void setLine(int line) { line_ = line; }
     int line() const { return line_; }
-    void write(std::string_view type, const JsonObject& members);
+    void write(std::string_view type, const exporting::JsonObject& members);
     void writeRows(const host::TDataSet& rows);
     // What is written so far is out of the program's hands.
     void flush() { out_.flush(); }

@@ -46,12 +46,12 @@ const char* eventName(host::TEventoProgresso::TTipo kind) {
     return "";
 }
 
-JsonObject describe(const host::TMensagem& message, const std::string& answer) {
-    JsonObject members;
-    return members.add("nivel", quoteJson(levelName(message.Nivel)))
-        .add("titulo", quoteJson(message.Titulo))
-        .add("texto", quoteJson(message.Texto))
-        .add("botoes", jsonTexts(message.Botoes))
+exporting::JsonObject describe(const host::TMensagem& message, const std::string& answer) {
+    exporting::JsonObject members;
+    return members.add("nivel", exporting::quoteJson(levelName(message.Nivel)))
+        .add("titulo", exporting::quoteJson(message.Titulo))
+        .add("texto", exporting::quoteJson(message.Texto))
+        .add("botoes", exporting::jsonTexts(message.Botoes))
         .add("resposta", answer);
 }
 
@@ -111,18 +111,18 @@ void ScriptInteraction::Progresso(const host::TEventoProgresso& event) {
     }
     if (event.Tipo == Event::Passo)
         ++steps_;
-    JsonObject members;
-    members.add("evento", quoteJson(eventName(event.Tipo))).add("nivel", std::to_string(event.Nivel));
+    exporting::JsonObject members;
+    members.add("evento", exporting::quoteJson(eventName(event.Tipo))).add("nivel", std::to_string(event.Nivel));
     if (event.Tipo == Event::Titulo || event.Tipo == Event::Texto)
-        members.add("texto", quoteJson(event.Texto));
+        members.add("texto", exporting::quoteJson(event.Texto));
     if (event.Tipo == Event::Maximo || event.Tipo == Event::Passo)
         members.add("valor", std::to_string(event.Valor));
     out_.write("progresso", members);
 }
 
 void ScriptInteraction::Focar(host::TControle& control) {
-    JsonObject members;
-    out_.write("foco", members.add("controle", quoteJson(control.Nome())));
+    exporting::JsonObject members;
+    out_.write("foco", members.add("controle", exporting::quoteJson(control.Nome())));
 }
 
 } // namespace suite::script

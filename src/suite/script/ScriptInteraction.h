@@ -27,7 +27,7 @@ class ScriptInteraction final : public host::TInteracao {
     void throwIfAnswersLeft() const;
     void throwIfCancelled() const;
     // The first failure of the database that a message told of.
-    const std::optional<host::TFalhaBanco>& databaseFailure() const { return databaseFailure_; }
+    const std::optional<base::TFalhaBanco>& databaseFailure() const { return databaseFailure_; }
 
     int Mensagem(const host::TMensagem& message) override;
     void Progresso(const host::TEventoProgresso& event) override;
@@ -50,7 +50,7 @@ class ScriptInteraction final : public host::TInteracao {
     std::function<bool()> cancelled_;
     std::deque<Answer> answers_;
     std::optional<ScriptFailure> failure_;
-    std::optional<host::TFalhaBanco> databaseFailure_;
+    std::optional<base::TFalhaBanco> databaseFailure_;
     int nextCancel_ = 0; // for the progress dialog still to come; 0: none
     int cancelAt_ = 0;   // in the progress dialog shown last
     int steps_ = 0;

@@ -1,6 +1,6 @@
 #include "suite/script/ScriptReader.h"
 
-#include "host/Texto.h"
+#include "base/Texto.h"
 
 #include <utility>
 
@@ -19,7 +19,7 @@ std::string_view trim(std::string_view text) {
 // What a script types comes back in its output, which must stay UTF-8.
 bool isUtf8(std::string_view text) {
     while (!text.empty()) {
-        const auto length = host::TamanhoDoCaractere(text);
+        const auto length = base::TamanhoDoCaractere(text);
         if (length == 0)
             return false;
         text.remove_prefix(length);

@@ -89,9 +89,9 @@ void ScriptRunner::execute(const Step& step) {
         perform(*verb, step.rest);
     } catch (const WrongUse& wrong) {
         throw ScriptFailure(Kind::WrongStep, step.line, wrong.what());
-    } catch (const host::TFalhaBanco&) {
+    } catch (const base::TFalhaBanco&) {
         throw;
-    } catch (const host::TFalha& failure) {
+    } catch (const base::TFalha& failure) {
         throw ScriptFailure(Kind::Refused, step.line, failure.what());
     }
 }
@@ -110,10 +110,10 @@ void ScriptRunner::perform(const Verb& verb, const std::string& rest) {
 
 void ScriptRunner::showModal(host::TFormZTTandorPadraoResult& form) {
     const auto write = [&](const char* state, const std::string& result) {
-        JsonObject members;
-        out_.write(
-            "dialogo",
-            members.add("nome", quoteJson(form.Nome())).add("estado", quoteJson(state)).add("resultado", result));
+        exporting::JsonObject members;
+        out_.write("dialogo", members.add("nome", exporting::quoteJson(form.Nome()))
+                                  .add("estado", exporting::quoteJson(state))
+                                  .add("resultado", result));
     };
     const struct InFront {
         std::vector<host::TForm*>& forms;

@@ -28,7 +28,7 @@ class ScriptRunner {
     // Throws ScriptFailure for what is wrong with the script; a database failure that reaches the window passes.
     void run();
     // One that the window only told of: the steps behind it have run all the same.
-    const std::optional<host::TFalhaBanco>& databaseFailure() const { return interaction_.databaseFailure(); }
+    const std::optional<base::TFalhaBanco>& databaseFailure() const { return interaction_.databaseFailure(); }
 
   private:
     using Words = std::vector<std::string>;

@@ -1,8 +1,8 @@
-#include "suite/script/GridExport.h"
+#include "suite/export/GridExport.h"
 #include "suite/script/ScriptRunner.h"
 #include "suite/script/Show.h"
 
-#include "host/Texto.h"
+#include "base/Texto.h"
 
 #include <map>
 
@@ -11,7 +11,7 @@ namespace suite::script {
 namespace {
 
 int positive(const std::string& word) {
-    const auto number = host::NumeroOuZero(word);
+    const auto number = base::NumeroOuZero(word);
     if (number < 1)
         throw WrongUse("\"" + word + "\" não é um número a partir de 1.");
     return number;
@@ -51,7 +51,7 @@ void ScriptRunner::press(const Words& words) {
 }
 
 void ScriptRunner::answer(const Words& words) {
-    const auto code = host::NumeroOuZero(words.front());
+    const auto code = base::NumeroOuZero(words.front());
     if (code != 6 && code != 7 && code != 2)
         throw WrongUse("Uma resposta é 6, 7 ou 2, e não \"" + words.front() + "\".");
     interaction_.answer(code);
@@ -59,7 +59,7 @@ void ScriptRunner::answer(const Words& words) {
 
 void ScriptRunner::cancel(const Words& words) { interaction_.cancelAtStep(positive(words.front())); }
 
-void ScriptRunner::print(const Words&) { throw host::TFalha("A impressão não faz parte desta versão."); }
+void ScriptRunner::print(const Words&) { throw base::TFalha("A impressão não faz parte desta versão."); }
 
 void ScriptRunner::exportView(const Words& words) {
     const auto* grid = window_->GradeEmVista();
@@ -68,7 +68,7 @@ void ScriptRunner::exportView(const Words& words) {
     std::vector<std::string> title{window_->Titulo()};
     if (auto text = titleInView(*window_); !text.empty())
         title.push_back(std::move(text));
-    exportGrid(*grid, words.front(), title);
+    exporting::exportGrid(*grid, words.front(), title);
 }
 
 void ScriptRunner::showSubject(const Words& words) { show(out_, {*window_, front()}, words.front()); }

@@ -1,6 +1,6 @@
 #include "suite/script/Show.h"
 
-#include "host/Texto.h"
+#include "base/Texto.h"
 #include "suite/script/ControlJson.h"
 #include "suite/script/FormDriver.h"
 #include "suite/script/GridJson.h"
@@ -16,13 +16,13 @@ namespace {
 constexpr const char* PrintedRows = "CdsImpressao";
 
 std::string describe(const host::TConteudoDescrito& content) {
-    if (const auto* value = std::get_if<host::TValor>(&content))
-        return jsonValue(*value);
+    if (const auto* value = std::get_if<base::TValor>(&content))
+        return exporting::jsonValue(*value);
     if (const auto* flag = std::get_if<bool>(&content))
-        return jsonFlag(*flag);
+        return exporting::jsonFlag(*flag);
     if (const auto* texts = std::get_if<std::vector<std::string>>(&content))
-        return jsonTexts(*texts);
-    JsonObject members;
+        return exporting::jsonTexts(*texts);
+    exporting::JsonObject members;
     for (const auto& field : std::get<std::vector<host::TCampoDescrito>>(content))
         members.add(field.Nome, describe(field.Conteudo));
     return members.text();
@@ -56,22 +56,22 @@ const host::TDataSet& findDataSet(const host::TFormZTTandorPadraoSelecao& window
     throw WrongUse("Não há o conjunto de dados \"" + name + "\". Existem: " + list + ".");
 }
 
-[[noreturn]] void notYet(const std::string& what) { throw host::TFalha(what + " não faz parte desta versão."); }
+[[noreturn]] void notYet(const std::string& what) { throw base::TFalha(what + " não faz parte desta versão."); }
 
 void showControls(JsonLines& out, const View& view, const std::string& rest) {
-    JsonObject controls;
+    exporting::JsonObject controls;
     const auto names = splitWords(rest, std::string::npos);
     for (const auto& name : names)
         controls.add(name, describeControl(FormDriver::control(view.front, name)).text());
     if (names.empty())
         for (const auto* control : view.front.Controles())
             controls.add(control->Nome(), describeControl(*control).text());
-    JsonObject members;
+    exporting::JsonObject members;
     out.write("controles", members.add("controles", controls.text()));
 }
 
 void showSelection(JsonLines& out, const View& view, const std::string&) {
-    JsonObject members;
+    exporting::JsonObject members;
     const auto fields =
         view.window.DataModule() ? view.window.DataModule()->DescreverCampos() : std::vector<host::TCampoDescrito>{};
     out.write("selecao", members.add("campos", describe(fields)));
@@ -83,18 +83,18 @@ void showWindow(JsonLines& out, const View& view, const std::string&) {
     for (const auto* control : view.window.Controles())
         if (control->Visible() && control->Nome().starts_with("PnlLegenda"))
             legend = control->Nome();
-    JsonObject data;
+    exporting::JsonObject data;
     for (const auto* source : view.window.Fontes())
         if (source->DataSet) {
-            JsonObject state;
-            state.add("aberto", jsonFlag(source->DataSet->Active()))
+            exporting::JsonObject state;
+            state.add("aberto", exporting::jsonFlag(source->DataSet->Active()))
                 .add("linhas", std::to_string(source->DataSet->RecordCount()));
             data.add(source->DataSet->Nome(), state.text());
         }
-    JsonObject members;
-    out.write("janela", members.add("grade", jsonTextOrNull(grid ? grid->Nome() : std::string()))
-                            .add("legenda", jsonTextOrNull(legend))
-                            .add("titulo", quoteJson(titleInView(view.window)))
+    exporting::JsonObject members;
+    out.write("janela", members.add("grade", exporting::jsonTextOrNull(grid ? grid->Nome() : std::string()))
+                            .add("legenda", exporting::jsonTextOrNull(legend))
+                            .add("titulo", exporting::quoteJson(titleInView(view.window)))
                             .add("dados", data.text()));
 }
 
@@ -110,7 +110,7 @@ void showRows(JsonLines& out, const View& view, const std::string& rest) {
 }
 
 void showColumns(JsonLines& out, const View& view, const std::string&) {
-    JsonObject members;
+    exporting::JsonObject members;
     out.write("colunas", members.add("colunas", describeColumns(requireGrid(view.window))));
 }
 
@@ -120,11 +120,11 @@ void showCells(JsonLines& out, const View& view, const std::string& rest) {
     if (words.empty() || (selected && words.back() != "selecionada"))
         throw WrongUse("O passo se escreve \"mostrar celulas N [selecionada]\".");
     const auto& grid = requireGrid(view.window);
-    const auto row = host::NumeroOuZero(words.front());
+    const auto row = base::NumeroOuZero(words.front());
     const auto count = grid.DataSet() ? grid.DataSet()->RecordCount() : 0;
     if (row < 1 || static_cast<std::size_t>(row) > count)
         throw WrongUse("A grade tem " + std::to_string(count) + " linhas; não há a linha \"" + words.front() + "\".");
-    JsonObject members;
+    exporting::JsonObject members;
     out.write("celulas",
               members.add("campos", describeCells(grid, static_cast<std::size_t>(row) - 1, selected).text()));
 }
@@ -135,8 +135,8 @@ void showCommand(JsonLines& out, const View& view, const std::string& rest) {
     const auto* dataSet = dynamic_cast<const host::TZTClientDataSet*>(&findDataSet(view.window, rest));
     if (!dataSet)
         throw WrongUse(rest + " não recebe comandos.");
-    JsonObject members;
-    out.write("comando", members.add("texto", quoteJson(dataSet->CommandText)));
+    exporting::JsonObject members;
+    out.write("comando", members.add("texto", exporting::quoteJson(dataSet->CommandText)));
 }
 
 void showReport(JsonLines&, const View&, const std::string&) { notYet("O relatório"); }

@@ -1,0 +1,147 @@
+#include "suite/desktop/shell/DesktopInteraction.h"
+
+#include "suite/desktop/form/DialogWindow.h"
+#include "suite/desktop/form/LookupWindow.h"
+#include "suite/desktop/look/Text.h"
+#include "suite/desktop/shell/MessageDialog.h"
+
+#include <QApplication>
+
+#include <utility>
+
+namespace suite::desktop {
+
+namespace {
+
+constexpr std::chrono::milliseconds BusyAfter{1200}; // a call this long gets a window with Cancel
+constexpr int TurnEvery = 40;                        // milliseconds, while a progress window tells its steps
+
+QStyle::StandardPixmap iconOf(host::TNivelMensagem level) {
+    switch (level) {
+    case host::TNivelMensagem::Erro:
+        return QStyle::SP_MessageBoxCritical;
+    case host::TNivelMensagem::Confirmacao:
+        return QStyle::SP_MessageBoxQuestion;
+    default:
+        return QStyle::SP_MessageBoxInformation;
+    }
+}
+
+} // namespace
+
+DesktopInteraction::DesktopInteraction(Aside& aside, std::function<void()> cancelStatement) : aside_(aside) {
+    progress_ = std::make_unique<ProgressWindow>(nullptr);
+    busy_ = std::make_unique<ProgressWindow>(nullptr);
+    progress_->onCancel = cancelStatement;
+    busy_->onCancel = std::move(cancelStatement);
+    busy_->setObjectName(QStringLiteral("aguarde"));
+    aside_.admits = [this](const QWidget& window) { return &window == progress_.get() || &window == busy_.get(); };
+    aside_.onWaiting = [this](auto since) { waiting(since); };
+    aside_.onWaited = [this] { waited(); };
+    lastTurn_.start();
+}
+
+DesktopInteraction::~DesktopInteraction() {
+    aside_.admits = {};
+    aside_.onWaiting = {};
+    aside_.onWaited = {};
+}
+
+void DesktopInteraction::attach(QWidget* window, FormBinding* binding) {
+    dialogs_.clear();
+    window_ = window;
+    binding_ = binding;
+}
+
+QWidget* DesktopInteraction::front() const {
+    auto* modal = QApplication::activeModalWidget();
+    return modal ? modal : window_;
+}
+
+int DesktopInteraction::Mensagem(const host::TMensagem& message) {
+    MessageContent content;
+    content.icon = iconOf(message.Nivel);
+    content.title = fromUtf8(message.Titulo);
+    content.text = fromMessage(message.Texto);
+    for (const auto& button : message.Botoes)
+        content.buttons.append(fromUtf8(button));
+    content.defaultCode = message.Padrao;
+    content.details = message.Causa ? fromUtf8(message.Causa->Diagnostico()) : QString();
+    return MessageDialog(content, front()).ask();
+}
+
+void DesktopInteraction::Progresso(const host::TEventoProgresso& event) {
+    if (event.Tipo == host::TEventoProgresso::TTipo::Mostrar)
+        progress_->standBefore(front());
+    progress_->apply(event);
+    turnNowAndThen();
+}
+
+bool DesktopInteraction::ProgressoCancelado() {
+    turnNowAndThen();
+    return progress_->cancelled();
+}
+
+void DesktopInteraction::turnNowAndThen() {
+    if (lastTurn_.elapsed() < TurnEvery)
+        return;
+    ProcessarMensagens();
+}
+
+void DesktopInteraction::ProcessarMensagens() {
+    aside_.turn(progress_->isVisible() ? Aside::UserInput::Dropped : Aside::UserInput::Waits);
+    lastTurn_.restart();
+}
+
+void DesktopInteraction::waiting(std::chrono::milliseconds since) {
+    const bool told = progress_->isVisible() || busy_->isVisible();
+    if (told == waitCursor_) {
+        waitCursor_ = !told;
+        told ? QGuiApplication::restoreOverrideCursor() : QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    }
+    if (told || since < BusyAfter)
+        return;
+    busy_->standBefore(front());
+    busy_->showBusy(QStringLiteral("Aguardando o banco de dados..."));
+}
+
+void DesktopInteraction::waited() {
+    if (std::exchange(waitCursor_, false))
+        QGuiApplication::restoreOverrideCursor();
+    if (busy_->isVisible())
+        busy_->finish();
+}
+
+DialogWindow& DesktopInteraction::dialogOf(host::TFormZTTandorPadraoResult& form) {
+    auto& dialog = dialogs_[&form];
+    if (!dialog) {
+        dialog = std::make_unique<DialogWindow>(form, window_);
+        dialog->binding().onFailure = [this](const std::exception& failure) {
+            if (onFailure)
+                onFailure(failure);
+        };
+    }
+    return *dialog;
+}
+
+void DesktopInteraction::MostrarModal(host::TFormZTTandorPadraoResult& form) {
+    auto& dialog = dialogOf(form);
+    if (std::exchange(confirmNext_, false))
+        dialog.binding().attempt([&] { form.Executar(form.Acao("actOK")); });
+    if (form.Aberto())
+        dialog.run();
+    if (form.Aberto()) // the program is ending
+        form.Executar(form.Acao("actSair"));
+}
+
+void DesktopInteraction::Focar(host::TControle& control) {
+    for (const auto& [form, dialog] : dialogs_)
+        if (dialog->binding().has(control))
+            return dialog->binding().focus(control);
+    if (binding_ && binding_->has(control))
+        binding_->focus(control);
+}
+
+void DesktopInteraction::Pesquisar(host::TZTLookupEx& lookup) { searchIn(lookup, front()); }
+
+} // namespace suite::desktop
