@@ -9,35 +9,49 @@ namespace pct04618 {
 
 namespace {
 
+using host::TPapelColuna;
+
 constexpr const char* Base = "Valor Base";
 constexpr const char* Orcado = "Valor Orçado";
 constexpr const char* Realizado = "Valor Realizado";
-constexpr const char* Dinheiro = ",0.00";
-constexpr const char* Percentual = ",0.0000";
+constexpr const char* FormatoDinheiro = ",0.00";
+constexpr const char* FormatoPercentual = ",0.0000";
 
-host::TColunaGrade Coluna(std::string ACampo, const char* ATitulo, const char* AFaixa = "", const char* AFormato = "") {
-    host::TColunaGrade LColuna;
-    LColuna.Campo = std::move(ACampo);
-    LColuna.Titulo = ATitulo;
-    LColuna.Faixa = AFaixa;
-    LColuna.Formato = AFormato;
-    return LColuna;
-}
-
-host::TColunaGrade Oculta(host::TColunaGrade AColuna) {
-    AColuna.Visivel = false;
-    return AColuna;
-}
-
-host::TColunaGrade Agrupada(host::TColunaGrade AColuna) {
-    AColuna.Grupo = 0;
-    return AColuna;
-}
-
-host::TColunaGrade Identificacao(host::TColunaGrade AColuna) {
-    AColuna.Identificacao = true;
-    return AColuna;
-}
+// A column under construction: what is not said of it is as for any. The role decides the number format.
+struct TDesenho : host::TColunaGrade {
+    TDesenho(std::string ACampo, std::string ATitulo, const char* AFaixa = "") {
+        Campo = std::move(ACampo);
+        Titulo = std::move(ATitulo);
+        Faixa = AFaixa;
+    }
+    TDesenho& Com(TPapelColuna APapel) {
+        const bool LPercentual = APapel == TPapelColuna::Percentual || APapel == TPapelColuna::PercentualDesvio;
+        if (APapel >= TPapelColuna::Dinheiro)
+            Formato = LPercentual ? FormatoPercentual : FormatoDinheiro;
+        Papel = APapel;
+        return *this;
+    }
+    TDesenho& Identifica() {
+        Identificacao = true;
+        return *this;
+    }
+    TDesenho& Oculta() {
+        Visivel = false;
+        return *this;
+    }
+    TDesenho& Agrupada() {
+        Grupo = 0;
+        return *this;
+    }
+    TDesenho& Cedendo(int AOrdem) {
+        Cede = AOrdem;
+        return *this;
+    }
+    TDesenho& Somando(std::vector<std::string> AParcelas) {
+        Parcelas = std::move(AParcelas);
+        return *this;
+    }
+};
 
 host::TColunaGrade& Achar(TColunasGrade& AColunas, const std::string& ACampo) {
     const auto LColuna =
@@ -54,7 +68,9 @@ void EstruturarColunaPeriodo(TColunasGrade& AColunas, const host::TDataSet& ADat
     auto& LValor = Achar(AColunas, "VAL" + ANumero);
     LValor.Titulo = LPeriodo->AsString();
     LValor.Visivel = !LValor.Titulo.empty();
-    Achar(AColunas, "PERC" + ANumero).Visivel = LValor.Visivel;
+    auto& LPercentual = Achar(AColunas, "PERC" + ANumero);
+    LPercentual.Visivel = LValor.Visivel;
+    LPercentual.Extenso = LPercentual.Titulo + " " + LValor.Titulo;
 }
 
 void AplicarPadrao(TColunasGrade& AColunas, std::initializer_list<const char*> AOcultas) {
@@ -68,46 +84,76 @@ void AplicarPadrao(TColunasGrade& AColunas, std::initializer_list<const char*> A
 
 } // namespace
 
+// Where room is narrow, percentages give way before values, late periods before early ones, and what describes a
+// projection before what it is worth.
 TColunasGrade ColunasDbtvCtbOrcada() {
-    return {Coluna("CLASSIFCONTAB", "Classificação"),
-            Coluna("CONTA", "Conta/Tot."),
-            Coluna("CODIGO", "Sub"),
-            Coluna("CCUSTO", "C.Custo"),
-            Oculta(Coluna("DESCCCUSTO", "Desc.Custo")),
-            Agrupada(Coluna("FILIAL", "Filial")),
-            Coluna("NOMECONTA", "Nome da Conta/Totalizador"),
-            Coluna("TPATUALIZBASE", "TP Atualiz.", Base),
-            Coluna("INDICEATBASE", "% Atualiz.", Base),
-            Coluna("VLRBASE", "Valor", Base, Dinheiro),
-            Coluna("TPPROJECAO", "Proj.", Orcado),
-            Coluna("TPBASEPROJ", "Base Proj.", Orcado),
-            Coluna("PERCORCADO", "%", Orcado, Percentual),
-            Coluna("VLRORCADO", "Valor", Orcado, Dinheiro),
-            Coluna("VLRREALIZADO", "Valor Realizado", Realizado, Dinheiro),
-            Coluna("DELTAVLR", "Variação", Realizado, Dinheiro),
-            Coluna("DELTAPERC", "% Realizado", Realizado, Percentual),
-            Coluna("DELTAVARIACAO", "% Variação", Realizado, Percentual),
-            Coluna("RECDESP", "Tipo Conta", Realizado),
-            Oculta(Coluna("CTATITULO", "", Realizado))};
+    return {
+        TDesenho("CLASSIFCONTAB", "Classificação").Identifica(),
+        TDesenho("CONTA", "Conta/Tot.").Identifica().Cedendo(30),
+        TDesenho("CODIGO", "Sub").Identifica().Cedendo(25),
+        TDesenho("CCUSTO", "C.Custo").Com(TPapelColuna::Detalhe).Identifica(),
+        TDesenho("DESCCCUSTO", "Desc.Custo").Identifica().Oculta(),
+        TDesenho("FILIAL", "Filial").Com(TPapelColuna::Detalhe).Identifica().Agrupada(),
+        TDesenho("NOMECONTA", "Nome da Conta/Totalizador").Com(TPapelColuna::Nome).Identifica(),
+        TDesenho("TPATUALIZBASE", "TP Atualiz.", Base).Cedendo(40),
+        TDesenho("INDICEATBASE", "% Atualiz.", Base).Cedendo(40),
+        TDesenho("VLRBASE", "Valor", Base).Com(TPapelColuna::Dinheiro).Cedendo(3),
+        TDesenho("TPPROJECAO", "Proj.", Orcado).Cedendo(39),
+        TDesenho("TPBASEPROJ", "Base Proj.", Orcado).Cedendo(39),
+        TDesenho("PERCORCADO", "%", Orcado).Com(TPapelColuna::Percentual).Cedendo(40),
+        TDesenho("VLRORCADO", "Valor", Orcado).Com(TPapelColuna::Dinheiro),
+        TDesenho("VLRREALIZADO", "Valor Realizado", Realizado).Com(TPapelColuna::Dinheiro),
+        TDesenho("DELTAVLR", "Variação", Realizado).Com(TPapelColuna::Desvio).Somando({"VLRREALIZADO", "-VLRORCADO"}),
+        TDesenho("DELTAPERC", "% Realizado", Realizado).Com(TPapelColuna::Percentual).Cedendo(1),
+        TDesenho("DELTAVARIACAO", "% Variação", Realizado).Com(TPapelColuna::PercentualDesvio).Cedendo(2),
+        TDesenho("RECDESP", "Tipo Conta", Realizado).Cedendo(50),
+        TDesenho("CTATITULO", "", Realizado).Oculta()};
+}
+
+host::TRegraDasLinhas LinhasDbtvCtbOrcada() {
+    host::TRegraDasLinhas LLinhas;
+    LLinhas.Titulo = "CTATITULO";
+    LLinhas.Chave = {"IDPLANO", "CONTA", "CODIGO", "CCUSTO", "FILIAL", "CLASSIFCONTAB"};
+    LLinhas.Conta = "IDPLANO";
+    LLinhas.Favoravel = "DELTAVARIACAO";
+    LLinhas.Nivel = "CLASSIFCONTAB";
+    return LLinhas;
 }
 
 TColunasGrade ColunasDbtvMostraCtbOrcMensal() {
-    TColunasGrade LColunas{Identificacao(Coluna("CLASSIFCONTAB", "Classif. Conta/Tot.")),
-                           Identificacao(Coluna("CONTA", "Conta/Tot.")),
-                           Identificacao(Coluna("SUBCONTA", "Sub")),
-                           Identificacao(Coluna("CCUSTO", "C.Custo")),
-                           Identificacao(Agrupada(Coluna("FILIAL", "Filial"))),
-                           Identificacao(Coluna("NOMECONTA", "Nome da Conta/Tot. [Conta/Tot. Desc.]")),
-                           Coluna("ANO", "Ano")};
+    TColunasGrade LColunas{
+        TDesenho("CLASSIFCONTAB", "Classif. Conta/Tot.").Identifica(),
+        TDesenho("CONTA", "Conta/Tot.").Identifica().Cedendo(30),
+        TDesenho("SUBCONTA", "Sub").Identifica().Cedendo(25),
+        TDesenho("CCUSTO", "C.Custo").Com(TPapelColuna::Detalhe).Identifica(),
+        TDesenho("FILIAL", "Filial").Com(TPapelColuna::Detalhe).Identifica().Agrupada(),
+        TDesenho("NOMECONTA", "Nome da Conta/Tot. [Conta/Tot. Desc.]").Com(TPapelColuna::Nome).Identifica(),
+        TDesenho("ANO", "Ano")};
+    std::vector<std::string> LPeriodos;
     for (int I = 1; I <= MaximoPeriodosEmColunas; ++I) { // in view once a result has named the period
-        LColunas.push_back(Oculta(Coluna("VAL" + std::to_string(I), "", "", Dinheiro)));
-        LColunas.push_back(Oculta(Coluna("PERC" + std::to_string(I), "%", "", Percentual)));
+        LPeriodos.push_back("VAL" + std::to_string(I));
+        LColunas.push_back(TDesenho(LPeriodos.back(), "").Com(TPapelColuna::Dinheiro).Oculta().Cedendo(5 + I));
+        LColunas.push_back(
+            TDesenho("PERC" + std::to_string(I), "%").Com(TPapelColuna::Percentual).Oculta().Cedendo(60 + I));
     }
-    for (auto& LColuna :
-         {Coluna("TOTAL", "Total", "", Dinheiro), Coluna("PERCTOT", "%", "", Percentual),
-          Oculta(Coluna("CTATITULO", "")), Oculta(Coluna("TIPOLINHA", "")), Oculta(Coluna("IDPLANO", ""))})
+    for (const auto& LColuna :
+         {TDesenho("TOTAL", "Total").Com(TPapelColuna::Total).Somando(LPeriodos),
+          TDesenho("PERCTOT", "%").Com(TPapelColuna::Percentual), TDesenho("CTATITULO", "").Oculta(),
+          TDesenho("TIPOLINHA", "").Oculta(), TDesenho("IDPLANO", "").Oculta()})
         LColunas.push_back(LColuna);
+    Achar(LColunas, "PERCTOT").Extenso = "% Total";
     return LColunas;
+}
+
+host::TRegraDasLinhas LinhasDbtvMostraCtbOrcMensal() {
+    host::TRegraDasLinhas LLinhas;
+    LLinhas.Titulo = "CTATITULO";
+    LLinhas.Tipo = "TIPOLINHA";
+    // Not the name: an amount that does not fit marks it in its own row alone.
+    LLinhas.Chave = {"IDPLANO", "IDPLANOSUB", "IDDEMACTOT", "CONTA", "SUBCONTA", "CCUSTO", "FILIAL", "CLASSIFCONTAB"};
+    LLinhas.Conta = "IDPLANO";
+    LLinhas.Nivel = "CLASSIFCONTAB";
+    return LLinhas;
 }
 
 TColunasGrade EstruturarColunasPeriodo(TColunasGrade AColunas, const host::TDataSet& ADataSet) {

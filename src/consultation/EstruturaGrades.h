@@ -11,6 +11,9 @@ using TColunasGrade = std::vector<host::TColunaGrade>;
 // The two result grids as they are designed: all columns in order.
 TColunasGrade ColunasDbtvCtbOrcada();
 TColunasGrade ColunasDbtvMostraCtbOrcMensal();
+// What their lines say of themselves.
+host::TRegraDasLinhas LinhasDbtvCtbOrcada();
+host::TRegraDasLinhas LinhasDbtvMostraCtbOrcMensal();
 
 // Captions and visibility of the period columns, from the periods that the current record names.
 TColunasGrade EstruturarColunasPeriodo(TColunasGrade AColunas, const host::TDataSet& ADataSet);

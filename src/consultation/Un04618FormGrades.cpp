@@ -53,9 +53,11 @@ void TForm04618::ConfigurarControles() {
 
 void TForm04618::ConfigurarGrades() {
     DbgCtbOrcada.SetColunas(ColunasDbtvCtbOrcada());
+    DbgCtbOrcada.Linhas = LinhasDbtvCtbOrcada();
     DbgCtbOrcada.RegraDaCelula = [](const host::TCelula& C) { return AparenciaDaCelula(LerCelulaBalanco(C)); };
     AoMudarAgrupamento(DbgCtbOrcada, [this] { DbtvCtbOrcadaDataControllerGroupingChanged(); });
     DbgMostraCtbOrcMensal.SetColunas(ColunasDbtvMostraCtbOrcMensal());
+    DbgMostraCtbOrcMensal.Linhas = LinhasDbtvMostraCtbOrcMensal();
     DbgMostraCtbOrcMensal.RegraDaCelula = [this](const host::TCelula& C) {
         return AparenciaDaCelula(LerCelulaPeriodos(C, GetDm04618()));
     };

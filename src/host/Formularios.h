@@ -99,6 +99,12 @@ class HOST_API TDmZTTandorPadrao : public TDMPadrao {
     void Conectar(std::initializer_list<TZTSQLDataSet*> ADataSets);
 };
 
+// One thing that a result was asked for: "Período", "01/01/2024 a 31/01/2024".
+struct HOST_API TCriterio {
+    std::string Nome;
+    std::string Valor;
+};
+
 // Base of a window: the action "Selecionar" and the slot of the data module.
 class HOST_API TFormZTTandorPadraoSelecao : public TForm {
   public:
@@ -106,6 +112,8 @@ class HOST_API TFormZTTandorPadraoSelecao : public TForm {
     virtual void ActSelecionarExecute(TControle* /*ASender*/) {}
     // The grid whose rows are in view, null for none.
     virtual TGrade* GradeEmVista() { return nullptr; }
+    // What the result in view was asked for, as every output of it says; the first is its title. None without a result.
+    virtual std::vector<TCriterio> Criterios() const { return {}; }
     const TDMPadrao* DataModule() const { return FDataModule.get(); } // null before InitializeForm
 
   protected:

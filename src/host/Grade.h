@@ -19,6 +19,18 @@ struct HOST_API TAparencia {
     bool Vazio = false; // shows its background only
 };
 
+// What a column holds. By it, and never by a field's name, a face chooses what it sums, draws and marks.
+enum class TPapelColuna : std::uint8_t {
+    Comum,
+    Nome,            // of the line
+    Detalhe,         // a code that tells lines of one name apart; 0 says that there is none
+    Dinheiro,        // an amount of one period or of the whole line; it sums down the lines
+    Total,           // an amount that holds others of its line; it sums too
+    Desvio,          // by how much the line is off its budget; it sums too
+    Percentual,      // has no sum
+    PercentualDesvio // has none either; the sign of the line stands beside it
+};
+
 struct HOST_API TColunaGrade {
     std::string Campo;
     std::string Titulo;
@@ -26,7 +38,22 @@ struct HOST_API TColunaGrade {
     bool Visivel = true;
     std::string Formato;        // of numbers (FormatoNumerico.h); empty: the field's own
     int Grupo = -1;             // grouping level from 0, -1 for none
-    bool Identificacao = false; // stays in view when the others scroll
+    bool Identificacao = false; // says which line it is, and stays in view when the others scroll
+    TPapelColuna Papel = TPapelColuna::Comum;
+    std::string Extenso = {}; // the title where no neighbour and no band explains it; empty: the title itself
+    int Cede = 0;             // where room is narrow the highest gives way first; 0 stays
+    // Fields of its line of which it is the sum, a "-" before one that is taken away; none: it stands for itself.
+    std::vector<std::string> Parcelas = {};
+};
+
+// What the lines of a grid say of themselves, by the field that says it; an empty name: nothing says it.
+struct HOST_API TRegraDasLinhas {
+    std::string Titulo; // 1: a title, which holds the lines below it; another number: analytic; NULL: neither
+    std::string Tipo;   // of a row among those of its line: 1 base, 2 budget, 3 actual
+    std::vector<std::string> Chave; // rows with the same values here are of the same line
+    std::string Conta;              // NULL: a totalizer, which holds accounts that stand beside it
+    std::string Favoravel;          // below zero: worse than the budget
+    std::string Nivel;              // a classification; each point in it is a level further down
 };
 
 class TGrade;
@@ -58,6 +85,7 @@ class HOST_API TGrade : public TControle {
     const TColunaGrade& Coluna(std::string_view ACampo) const;
     void MudarColuna(std::string_view ACampo, const std::function<void(TColunaGrade&)>& AMudanca);
 
+    TRegraDasLinhas Linhas;
     // The rule of the window; absent: plain cells.
     std::function<TAparencia(const TCelula&)> RegraDaCelula;
     TAparencia Aparencia(const TCelula& ACelula) const;
