@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Falhas.h"
-#include "core/Un04618Dm.h"
+#include "datamodule/Un04618Dm.h"
 #include "demo/Esquema.h"
 #include "host/Servicos.h"
 #include "suite/firebird/BulkInsert.h"

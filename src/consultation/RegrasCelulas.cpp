@@ -1,7 +1,7 @@
 #include "consultation/RegrasCelulas.h"
 
 #include "base/Texto.h"
-#include "core/Un04618Dm.h"
+#include "core/Un04618Selecao.h"
 
 #include <algorithm>
 #include <array>
@@ -101,12 +101,12 @@ TCelulaBalanco LerCelulaBalanco(const host::TCelula& ACelula) {
     return LCelula;
 }
 
-TCelulaPeriodos LerCelulaPeriodos(const host::TCelula& ACelula, const TDM04618& ADm) {
+TCelulaPeriodos LerCelulaPeriodos(const host::TCelula& ACelula, const TSelecao& ASelecao) {
     TCelulaPeriodos LCelula;
-    LCelula.LinhaVlrBase = ADm.FDetalharLinhaVlrBase;
-    LCelula.LinhaVlrOrcado = ADm.FDetalharLinhaVlrOrcado;
-    LCelula.LinhaVlrRealizado = ADm.FDetalharLinhaVlrRealizado;
-    LCelula.DetContasTotaliz = ADm.FImprimirDetContasTotaliz;
+    LCelula.LinhaVlrBase = ASelecao.FDetalharLinhaVlrBase;
+    LCelula.LinhaVlrOrcado = ASelecao.FDetalharLinhaVlrOrcado;
+    LCelula.LinhaVlrRealizado = ASelecao.FDetalharLinhaVlrRealizado;
+    LCelula.DetContasTotaliz = ASelecao.FImprimirDetContasTotaliz;
     LCelula.TipoLinha = Numero(ACelula, "TIPOLINHA");
     LCelula.CtaTitulo = Numero(ACelula, "CTATITULO");
     LCelula.IDPlano = base::TextoDe(ACelula.Valor("IDPLANO"));

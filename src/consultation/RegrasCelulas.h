@@ -8,7 +8,7 @@
 
 namespace pct04618 {
 
-class TDM04618;
+struct TSelecao;
 
 // How the cells of the two result grids look: functions of one row's values and of what the query module was asked for.
 // The same colour means different things in the two grids.
@@ -54,6 +54,6 @@ host::TAparencia AparenciaDaCelula(const TCelulaPeriodos& ACelula);
 
 // The plain values that the rules read of a grid's cell, whether their columns are in view or not.
 TCelulaBalanco LerCelulaBalanco(const host::TCelula& ACelula);
-TCelulaPeriodos LerCelulaPeriodos(const host::TCelula& ACelula, const TDM04618& ADm);
+TCelulaPeriodos LerCelulaPeriodos(const host::TCelula& ACelula, const TSelecao& ASelecao);
 
 } // namespace pct04618

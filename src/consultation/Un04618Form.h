@@ -1,7 +1,7 @@
 #pragma once
 
 #include "consultation/RegrasCelulas.h"
-#include "core/Un04618Dm.h"
+#include "datamodule/Un04618Dm.h"
 #include "host/Leiaute.h"
 #include "selection/Un04618FormSelecao.h"
 

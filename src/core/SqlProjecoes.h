@@ -2,7 +2,8 @@
 
 namespace pct04618::sql {
 
-// Period clauses of the lookup: %0:s first day, %1:s last day of the selection, as date literals.
+// Period clauses of the lookup: %0:s first day, %1:s last day of the selection, as date literals, %2:s whether a header
+// is monthly.
 
 // The projection of exactly that period.
 inline constexpr const char* PeriodoExato = R"(
@@ -17,20 +18,21 @@ inline constexpr const char* PeriodoIntermediarios = R"(
        AND CO01_CTBORCADAINF.DATAFIM = %1:s
        ))";
 
-// Over several years, in addition: headers of several months, and headers of a single month.
+// Over several years, in addition: headers of several months, and headers of a single month. %0:s whether a header is
+// monthly.
 inline constexpr const char* PeriodoVariosAnos = R"(
    AND (
-           (EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAINICIO) <> EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAFIM))
+           NOT (%0:s)
         OR (
                (EXTRACT(YEAR FROM CO01_CTBORCADAINF.DATAINICIO) = EXTRACT(YEAR FROM CO01_CTBORCADAINF.DATAFIM))
-           AND (EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAINICIO) = EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAFIM))
+           AND (%0:s)
            )
        ))";
 
 // Within one year: monthly headers only.
 inline constexpr const char* PeriodoMensais = R"(
    AND CO01_CTBORCADAINF.DATAINICIO BETWEEN %0:s AND %1:s
-   AND (EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAINICIO) = EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAFIM)))";
+   AND (%2:s))";
 
 // Headers of one company: %0:d company, %1:d scenario, %2:s period clause.
 inline constexpr const char* ListaProjecoes = R"(
@@ -70,7 +72,8 @@ SELECT FIRST 1 CO01_CTBORCADAINF.TPDETALHE
  WHERE CO01_CTBORCADAINF.IDEMPRESA = %0:d
    AND CO01_CTBORCADAINF.TPCENARIO = %1:d%2:s)";
 
-// Period conditions of that detail: %0:s first day, %1:s last day. They are other rules than the clauses above.
+// Period conditions of that detail: %0:s first day, %1:s last day, %2:s whether a header is monthly. They are other
+// rules than the clauses above.
 inline constexpr const char* CalculoVariosAnos = R"(
    AND CO01_CTBORCADAINF.DATAINICIO >= %0:s
    AND CO01_CTBORCADAINF.DATAFIM <= %1:s
@@ -78,12 +81,12 @@ inline constexpr const char* CalculoVariosAnos = R"(
            CO01_CTBORCADAINF.DATAINICIO = %0:s
        AND CO01_CTBORCADAINF.DATAFIM = %1:s
        )
-   AND EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAINICIO) <> EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAFIM))";
+   AND NOT (%2:s))";
 
 inline constexpr const char* CalculoMensais = R"(
    AND CO01_CTBORCADAINF.DATAINICIO >= %0:s
    AND CO01_CTBORCADAINF.DATAFIM <= %1:s
-   AND EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAINICIO) = EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAFIM))";
+   AND %2:s)";
 
 inline constexpr const char* CalculoGeral = R"(
    AND CO01_CTBORCADAINF.DATAINICIO >= %0:s
@@ -93,7 +96,7 @@ inline constexpr const char* CalculoGeral = R"(
                CO01_CTBORCADAINF.DATAINICIO = %0:s
            AND CO01_CTBORCADAINF.DATAFIM = %1:s
            )
-        OR EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAINICIO) = EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAFIM)
+        OR %2:s
        ))";
 
 // Establishments of the company: %0:d.

@@ -1,20 +1,29 @@
 #include "queries/Condicoes.h"
 
 #include "base/Texto.h"
-#include "core/Un04618Dm.h"
+#include "core/Projecoes.h"
 
 namespace pct04618 {
 
-std::string CondicaoFilial(const TDM04618& ADm) {
-    if (ADm.FListaIDsFilial && !ADm.FListaIDsFilial->empty()) {
+std::string CondicaoProjecoes(const TSelecao& ASelecao, const std::string& AColuna) {
+    return EstaNaLista(AColuna, base::Trim(ASelecao.FInformacoesCtbOrcadaInf.LListaIDs));
+}
+
+std::string CondicaoFilial(const TSelecao& ASelecao) {
+    if (ASelecao.FListaIDsFilial && !ASelecao.FListaIDsFilial->empty()) {
         std::string LLista;
-        for (const auto& LID : *ADm.FListaIDsFilial)
+        for (const auto& LID : *ASelecao.FListaIDsFilial)
             LLista += (LLista.empty() ? "" : ",") + LID;
-        return base::Format("AND CO01_CTBORCADAVLR.IDFILIAL IN (%s)", {LLista});
+        return "AND " + EstaNaLista("CO01_CTBORCADAVLR.IDFILIAL", LLista);
     }
-    if (ADm.FIDFilial > 0)
-        return base::Format("AND CO01_CTBORCADAVLR.IDFILIAL = %d", {ADm.FIDFilial});
+    if (ASelecao.FIDFilial > 0)
+        return base::Format("AND CO01_CTBORCADAVLR.IDFILIAL = %d", {ASelecao.FIDFilial});
     return {};
+}
+
+const char* ColunaFilial(const TSelecao& ASelecao) {
+    const bool LSeparadas = !ASelecao.FAgruparValFiliais && !ASelecao.FEhConsolidadoHolding;
+    return LSeparadas ? "COALESCE(SC00_FILIAL.FILIAL, 0) AS FILIAL" : "0 AS FILIAL";
 }
 
 } // namespace pct04618

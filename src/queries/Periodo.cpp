@@ -1,6 +1,7 @@
 #include "queries/Periodo.h"
 
 #include "base/Texto.h"
+#include "core/Projecoes.h"
 
 namespace pct04618 {
 

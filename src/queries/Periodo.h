@@ -5,10 +5,6 @@
 
 namespace pct04618 {
 
-// A header is monthly when it starts and ends in the same month of whatever year; any other goes by its year.
-inline constexpr const char* ProjecaoMensal =
-    "EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAINICIO) = EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAFIM)";
-
 // How a reader calls the period of a header, as an expression: the month's name, or the year. The lines behind the
 // first stand ARecuo columns in.
 std::string DescricaoDoPeriodo(std::size_t ARecuo);

@@ -13,9 +13,10 @@ namespace pct04618::sql {
 // Whether any account has several is asked once, and only then of each row.
 //
 // %0:s establishment column, %1:s projection base column, %2:s further projection columns of the inner select,
-// %3:s and %4:s projection columns of the middle and of the outer select, %5:s grouping, %6:s keys of the projections,
+// %3:s and %4:s projection columns of the middle and of the outer select, %5:s grouping, %6:s condition on the headers,
 // %7:d scenario, %8:s establishment, %9:s cost centre and %10:s account condition, %11:s to %14:s sums of base, budget
-// and actual and their difference, %15:s percentage, %16:s name, %17:s to %22:s the amounts of the result.
+// and actual and their difference, %15:s percentage, %16:s name, %17:s to %22:s the amounts of the result,
+// %23:s condition on the projections of value rows.
 inline constexpr const char* Balanco = R"(
 SELECT ORCADO2.FILIAL,
        ORCADO2.CTATITULO,
@@ -96,11 +97,11 @@ SELECT ORCADO2.FILIAL,
                                           AND PRIMEIRA.ORIGEM = 20
                                           AND PRIMEIRA.ESPECIE = 1
                                           AND PRIMEIRA.IDPLANOCFG < CO01_PLANOCFG.IDPLANOCFG))
-                 WHERE CO01_CTBORCADAINF.IDCTBORCADAINF IN (%6:s)
+                 WHERE %6:s
                    AND CO01_CTBORCADAINF.TPCENARIO = %7:d
                    AND CO01_CTBORCADAVLR.IDDEMACTOT IS NULL
                    %8:s%9:s%10:s
-                   AND CO01_CTBORCADAVLR.IDCTBORCADAINF IN (%6:s)
+                   AND %23:s
                  %5:s) ORCADO) ORCADO2
  WHERE ORCADO2.VLRBASE IS DISTINCT FROM 0
     OR ORCADO2.VLRORCADO IS DISTINCT FROM 0

@@ -84,8 +84,8 @@ END)";
 
 // The periods in order, as many as there are columns; the labels are those of the last one. The keys behind year and
 // month only keep periods that start together in an order of their own.
-// %0:s keys of the projections, %1:d scenario, %2:s kind of join, %3:s establishment, %4:s whether a header is monthly,
-// %5:s what its period is called, %6:s storing of a period in its column.
+// %0:s condition on the headers, %1:d scenario, %2:s kind of join, %3:s establishment, %4:s whether a header is
+// monthly, %5:s what its period is called, %6:s storing of a period in its column.
 inline constexpr const char* VarreduraPeriodos = R"(    LCOUNTTPPERIODO = 1;
     FOR
         SELECT DISTINCT
@@ -103,7 +103,7 @@ inline constexpr const char* VarreduraPeriodos = R"(    LCOUNTTPPERIODO = 1;
             ON CO01_CTBORCADAVLR.IDCTBORCADAINF = CO01_CTBORCADAINF.IDCTBORCADAINF
          %2:s CO01_PLANO
             ON CO01_PLANO.IDPLANO = CO01_CTBORCADAVLR.IDPLANO
-         WHERE CO01_CTBORCADAINF.IDCTBORCADAINF IN (%0:s)
+         WHERE %0:s
            AND CO01_CTBORCADAINF.TPCENARIO = %1:d%3:s
          ORDER BY EXTRACT(YEAR FROM CO01_CTBORCADAINF.DATAINICIO),
                   EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAINICIO),
@@ -124,7 +124,7 @@ inline constexpr const char* VarreduraPeriodos = R"(    LCOUNTTPPERIODO = 1;
 )";
 
 // The lines of one type: %0:d and %1:s the type, %2:s head columns, %3:s establishment column, %4:s label of the year,
-// %5:s columns of the periods, %6:s joins, %7:s keys of the projections, %8:s conditions.
+// %5:s columns of the periods, %6:s joins, %7:s and %8:s conditions.
 inline constexpr const char* LinhasDoTipo = R"(        SELECT DISTINCT
                %0:d AS TIPOLINHA,
                '%1:s' AS DESCTIPOLINHA,
@@ -145,7 +145,7 @@ inline constexpr const char* LinhasDoTipo = R"(        SELECT DISTINCT
             ON CO01_CENTROCUSTO.IDCENTROCUSTO = CO01_CTBORCADAVLR.IDCENTROCUSTO
           LEFT JOIN SC00_FILIAL
             ON SC00_FILIAL.IDFILIAL = CO01_CTBORCADAVLR.IDFILIAL
-         WHERE CO01_CTBORCADAINF.IDCTBORCADAINF IN (%7:s)
+         WHERE %7:s
            AND CO01_CTBORCADAINF.TPCENARIO = :LTPCENARIO%8:s
          GROUP BY 1,2,3,4,5,6,7,8,9,10,11,12,13,14,15)";
 

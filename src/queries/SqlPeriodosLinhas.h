@@ -51,7 +51,7 @@ END AS NOME)";
 
 // A value row meets one vertical base at most: of several the lowest, and of its total rows the one with the lowest
 // key. Whether there are several is asked once, and only then of each row. %0:d statement, %1:s condition that leaves
-// only total rows, %2:s totalizers chosen, %3:s keys of the projections.
+// only total rows, %2:s totalizers chosen, %3:s condition on the projections of REPETIDA.
 inline constexpr const char* JuncoesTotalizadores = R"(INNER JOIN CO01_CTBORCADAVLR
    ON CO01_CTBORCADAVLR.IDCTBORCADAINF = CO01_CTBORCADAINF.IDCTBORCADAINF
   AND CO01_CTBORCADAVLR.IDDEMACTOT IS NOT NULL%1:s
@@ -73,7 +73,7 @@ INNER JOIN CO01_DEMACTOT
                      FROM CO01_DEMACTOTVERT VERT
                     INNER JOIN CO01_CTBORCADAVLR REPETIDA
                        ON REPETIDA.IDDEMACTOT = VERT.IDDEMACTOTBASE
-                    WHERE REPETIDA.IDCTBORCADAINF IN (%3:s)
+                    WHERE %3:s
                       AND REPETIDA.IDPLANO IS NULL
                     GROUP BY VERT.IDDEMACTOT, REPETIDA.IDCTBORCADAINF, REPETIDA.IDFILIAL
                    HAVING MIN(REPETIDA.IDCTBORCADAVLR) < MAX(REPETIDA.IDCTBORCADAVLR))

@@ -12,7 +12,8 @@ SELECT FIRST 1 1 AS ACHOU
                 WHERE CO01_DEMACTOTREL.IDDEMACTOT = CO01_DEMACTOT.IDDEMACTOT
                   AND CO01_DEMACTOTREL.%1:s IS NOT NULL))";
 
-// Whether a projection of the list holds rows of the statement's totalizers: %0:s projections, %1:d statement.
+// Whether a projection of the list holds rows of the statement's totalizers: %0:s condition on the headers, %1:d
+// statement.
 inline constexpr const char* TotalizacoesGeradas = R"(
 SELECT FIRST 1 1
   FROM CO01_CTBORCADAINF
@@ -20,7 +21,7 @@ SELECT FIRST 1 1
     ON CO01_CTBORCADAINF.IDCTBORCADAINF = CO01_CTBORCADAVLR.IDCTBORCADAINF
  INNER JOIN CO01_DEMACTOT
     ON CO01_CTBORCADAVLR.IDDEMACTOT = CO01_DEMACTOT.IDDEMACTOT
- WHERE CO01_CTBORCADAINF.IDCTBORCADAINF IN (%0:s)
+ WHERE %0:s
    AND CO01_DEMACTOT.IDDEMAC = %1:d)";
 
 // Establishments of the logged company first, then those of the companies that it heads: %0:d company.

@@ -6,6 +6,7 @@
 #include "host/DbManager.h"
 #include "host/Servicos.h"
 #include "host/Utilidades.h"
+#include "queries/Condicoes.h"
 #include "selection/DefinicoesLookups.h"
 #include "selection/SqlSelecao.h"
 
@@ -108,9 +109,10 @@ void TForm04618Selecao::ExecutarConsultaDoModo() {
 
 bool TForm04618Selecao::JaExistemProjecoesGeradas() const {
     return !host::BuscarInstanciaZTUtilsDbManager()
-                .AbrirConsultaSQL(base::Format(sql::TotalizacoesGeradas,
-                                               {FDm04618.FInformacoesCtbOrcadaInf.LListaIDs, FDm04618.FIDDemac}),
-                                  "JaExistemProjecoesGeradas")
+                .AbrirConsultaSQL(
+                    base::Format(sql::TotalizacoesGeradas,
+                                 {CondicaoProjecoes(FDm04618, "CO01_CTBORCADAINF.IDCTBORCADAINF"), FDm04618.FIDDemac}),
+                    "JaExistemProjecoesGeradas")
                 ->IsEmpty();
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Un04618Dm.h"
+#include "datamodule/Un04618Dm.h"
 #include "host/Formularios.h"
 #include "host/LookupsContabeis.h"
 

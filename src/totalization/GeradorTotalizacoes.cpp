@@ -2,9 +2,11 @@
 
 #include "base/Falhas.h"
 #include "base/Texto.h"
+#include "core/Progresso.h"
 #include "core/Un04618Const.h"
 #include "host/DbManager.h"
 #include "host/Servicos.h"
+#include "queries/Cabecalho.h"
 #include "totalization/SqlExclusao.h"
 
 namespace pct04618 {
@@ -15,16 +17,15 @@ constexpr int NumeroDeEtapas = 6;
 
 } // namespace
 
-void TDM04618::GerarTotalizacoesDemonstracoesConfiguraveis() { TGeradorTotalizacoes(*this).Gerar(); }
-
-TGeradorTotalizacoes::TGeradorTotalizacoes(TDM04618& ADm)
-    : FDm(ADm),
+TGeradorTotalizacoes::TGeradorTotalizacoes(const TSelecao& ASelecao)
+    : FSelecao(ASelecao),
       FRelatorios(host::BuscarInstanciaZTUtilsDbManager().CreateClientDataSetWithConnection("relatórios a totalizar")),
       FProjecoes(host::BuscarInstanciaZTUtilsDbManager().CreateClientDataSetWithConnection("projeções a totalizar")),
       FProgresso(2) {}
 
 void TGeradorTotalizacoes::Gerar() {
-    FDm.BuscarCabecalhoOrcamentaria(*FProjecoes, ModoPeriodosEmColunas);
+    FProjecoes->CommandText = InstrucaoCabecalho(FSelecao, ModoPeriodosEmColunas);
+    FProjecoes->Open();
     RecusarCiclos();
     ConfirmarDependenciaRelatorios(*FRelatorios);
     BuscarRelatoriosATotalizar(*FRelatorios);
@@ -53,7 +54,7 @@ void TGeradorTotalizacoes::GerarProjecao() {
     FProgresso.BuscarBarraProgresso(NivelProjecoes)
         .SetTexto("Gerando totalizações Relatório " + FRelatorios->FieldByName("CODIGO").AsString() + " para " +
                   Periodo());
-    FDm.IncrementarBarraProgresso(NivelProjecoes, FProgresso);
+    IncrementarBarraProgresso(NivelProjecoes, FProgresso);
     auto& LEtapas = FProgresso.BuscarBarraProgresso(NivelEtapas);
     LEtapas.SetTexto("Excluindo totalizações orçamentária " + Periodo());
     ReservarProjecao();
@@ -109,7 +110,7 @@ void TGeradorTotalizacoes::Executar(const char* ANome, const char* AMensagem) {
 void TGeradorTotalizacoes::Falhar(const char* AMensagem, const std::string& AErro,
                                   const std::optional<base::TFalhaBanco>& ACausa) {
     FTransacao.reset(); // rolls back before the message: nobody else is to wait while it is read
-    FDm.PararSeCancelado(FProgresso);
+    PararSeCancelado(FProgresso);
     host::GZTUtilsDialogs.Erro(AMensagem + AErro, ACausa);
     throw base::Abort();
 }

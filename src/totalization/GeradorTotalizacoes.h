@@ -1,6 +1,11 @@
 #pragma once
 
-#include "core/Un04618Dm.h"
+#include "core/Un04618Selecao.h"
+#include "host/Conexao.h"
+#include "host/DataSet.h"
+#include "host/Dialogos.h"
+
+#include <memory>
 
 namespace pct04618 {
 
@@ -9,7 +14,8 @@ namespace pct04618 {
 // or the projection is as it was.
 class TGeradorTotalizacoes {
   public:
-    explicit TGeradorTotalizacoes(TDM04618& ADm);
+    // The projections of LListaIDs, which must not be empty, and the statement FIDDemac.
+    explicit TGeradorTotalizacoes(const TSelecao& ASelecao);
     // Throws base::Abort when the user stops it or when a statement fails, which the user has then been told.
     void Gerar();
 
@@ -47,7 +53,7 @@ class TGeradorTotalizacoes {
     std::int64_t Relatorio() const { return FRelatorios->GetInt64FieldValue("IDDEMAC"); }
     std::string Periodo() const;
 
-    TDM04618& FDm;
+    const TSelecao& FSelecao;
     std::unique_ptr<host::TZTClientDataSet> FRelatorios;
     std::unique_ptr<host::TZTClientDataSet> FProjecoes;
     host::TZTBarraProgressoDlg FProgresso;

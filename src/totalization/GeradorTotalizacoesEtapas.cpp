@@ -1,4 +1,5 @@
 #include "base/Texto.h"
+#include "core/Progresso.h"
 #include "host/Depurador.h"
 #include "totalization/GeradorTotalizacoes.h"
 #include "totalization/SqlDetalhamentos.h"
@@ -14,7 +15,7 @@ void TGeradorTotalizacoes::PrepararEtapa(const char* ATexto, const char* AInstru
 
 void TGeradorTotalizacoes::ConcluirEtapa(const char* ANome, const char* AMensagem) {
     Executar(ANome, AMensagem);
-    FDm.IncrementarBarraProgresso(NivelEtapas, FProgresso, [this] { FTransacao.reset(); });
+    IncrementarBarraProgresso(NivelEtapas, FProgresso, [this] { FTransacao.reset(); });
 }
 
 void TGeradorTotalizacoes::GerarDetalhamentosContas() {

@@ -77,7 +77,7 @@ struct TTotalizadores {
 // The statements walk parents upwards and links both ways, and have no end where these form a cycle.
 void TGeradorTotalizacoes::RecusarCiclos() {
     const TTotalizadores LTotalizadores;
-    const auto LEnvolvidos = LTotalizadores.Envolvidos(FDm.FIDDemac);
+    const auto LEnvolvidos = LTotalizadores.Envolvidos(FSelecao.FIDDemac);
     std::string LCiclos;
     for (const auto& LCiclo : LTotalizadores.Pais.Ciclos(LEnvolvidos))
         LCiclos += "Totalizador superior: " + LTotalizadores.Descrever(LCiclo) + "\r";
@@ -98,7 +98,8 @@ void TGeradorTotalizacoes::ConfirmarDependenciaRelatorios(host::TZTClientDataSet
     FFiltro.clear();
     ARelatorios.Close();
     ARelatorios.CommandText =
-        Format(sql::RelatoriosDependentes, {FDm.FIDDemac, Format("WHERE HIERARQUIA.IDDEMAC <> %0:d", {FDm.FIDDemac})});
+        Format(sql::RelatoriosDependentes,
+               {FSelecao.FIDDemac, Format("WHERE HIERARQUIA.IDDEMAC <> %0:d", {FSelecao.FIDDemac})});
     ARelatorios.Open();
     std::string LLista;
     for (ARelatorios.First(); !ARelatorios.Eof(); ARelatorios.Next())
@@ -114,12 +115,12 @@ void TGeradorTotalizacoes::ConfirmarDependenciaRelatorios(host::TZTClientDataSet
     if (LResposta == Cancelar)
         throw base::Abort();
     if (LResposta == SomenteOSelecionado)
-        FFiltro = Format("WHERE HIERARQUIA.IDDEMAC = %d", {FDm.FIDDemac});
+        FFiltro = Format("WHERE HIERARQUIA.IDDEMAC = %d", {FSelecao.FIDDemac});
 }
 
 void TGeradorTotalizacoes::BuscarRelatoriosATotalizar(host::TZTClientDataSet& ARelatorios) {
     ARelatorios.Close();
-    ARelatorios.CommandText = Format(sql::RelatoriosDependentes, {FDm.FIDDemac, FFiltro});
+    ARelatorios.CommandText = Format(sql::RelatoriosDependentes, {FSelecao.FIDDemac, FFiltro});
     ARelatorios.Open();
 }
 

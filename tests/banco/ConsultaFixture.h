@@ -2,7 +2,7 @@
 
 #include "apoio/Bases.h"
 #include "apoio/Hospedeiro.h"
-#include "core/Un04618Dm.h"
+#include "datamodule/Un04618Dm.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,5 @@
-#include "base/Falhas.h"
 #include "core/Un04618Const.h"
-#include "core/Un04618Dm.h"
+#include "datamodule/Un04618Dm.h"
 #include "host/Servicos.h"
 #include "host/Utilidades.h"
 
@@ -28,10 +27,6 @@ void TDM04618::CdsMostraCtbOrcMensalAfterOpen(host::TDataSet& ADataSet) {
     GUtilGeral.FormataCampoValor(ADataSet.FieldByName("PERCTOT"));
 }
 
-void TDM04618::CdsCtbOrcadaInfNewRecord() {
-    // A header takes its values from the code that inserts it.
-}
-
 void TDM04618::CdsCtbOrcadaVlrNewRecord() {
     CdsCtbOrcadaVlr.FieldByName("IDCTBORCADAVLR")
         .Atribuir(base::Inteiro(host::ZTConnection().BuscarProximoID("CO01_CTBORCADAVLR")));
@@ -40,24 +35,6 @@ void TDM04618::CdsCtbOrcadaVlrNewRecord() {
 void TDM04618::DspCtbOrcadaVlrGetTableName(std::string& ATableName) {
     // The statements that load the dataset are joins, which name no single table.
     ATableName = "CO01_CTBORCADAVLR";
-}
-
-void TDM04618::IncrementarBarraProgresso(std::int32_t ANivel, host::TZTBarraProgressoDlg& AZTBarraProgressoDlg,
-                                         const std::function<void()>& ADesfazer) {
-    AZTBarraProgressoDlg.BuscarBarraProgresso(ANivel).AvancarProgresso(0);
-    PararSeCancelado(AZTBarraProgressoDlg, ADesfazer);
-}
-
-void TDM04618::PararSeCancelado(host::TZTBarraProgressoDlg& AZTBarraProgressoDlg,
-                                const std::function<void()>& ADesfazer) {
-    if (!AZTBarraProgressoDlg.GetProcessoCancelado())
-        return;
-    if (ADesfazer)
-        ADesfazer();
-    host::GZTUtilsDialogs.Informacao("Processo Cancelado.");
-    AZTBarraProgressoDlg.FecharBarraProgresso();
-    host::Servicos().Interacao->ProcessarMensagens();
-    throw base::Abort();
 }
 
 } // namespace pct04618

@@ -1,7 +1,9 @@
+#include "queries/PeriodosEmColunas.h"
+
 #include "base/Falhas.h"
 #include "base/Texto.h"
+#include "core/Projecoes.h"
 #include "core/Un04618Const.h"
-#include "core/Un04618Dm.h"
 #include "queries/Condicoes.h"
 #include "queries/Periodo.h"
 #include "queries/SqlLimites.h"
@@ -43,38 +45,40 @@ std::string PorPeriodo(const char* ASeparador, const char* AModelo) {
 // A condition as a line of its own of the WHERE, or nothing.
 std::string Linha(const std::string& ACondicao) { return ACondicao.empty() ? "" : "\n           " + ACondicao; }
 
-bool Vertical(const TDM04618& ADm) { return ADm.FDetalharPercentual == TDetalhePercentual::dpVertical; }
-bool SobreBase(const TDM04618& ADm) { return ADm.FDetalharPercentual == TDetalhePercentual::dpRealizadoXBase; }
-const char* Diferenca(const TDM04618& ADm) { return ADm.FCalcularPercentualDiferenca ? "-100" : ""; }
+bool Vertical(const TSelecao& ASelecao) { return ASelecao.FDetalharPercentual == TDetalhePercentual::dpVertical; }
+bool SobreBase(const TSelecao& ASelecao) {
+    return ASelecao.FDetalharPercentual == TDetalhePercentual::dpRealizadoXBase;
+}
+const char* Diferenca(const TSelecao& ASelecao) { return ASelecao.FCalcularPercentualDiferenca ? "-100" : ""; }
 
-std::string Varredura(const TDM04618& ADm, bool AImpPerComMov) {
+std::string Varredura(const TSelecao& ASelecao, bool AImpPerComMov) {
     return Format(sql::VarreduraPeriodos, {
-                                              base::Trim(ADm.FInformacoesCtbOrcadaInf.LListaIDs),
-                                              std::int64_t{ADm.FCenario},
+                                              CondicaoProjecoes(ASelecao, "CO01_CTBORCADAINF.IDCTBORCADAINF"),
+                                              std::int64_t{ASelecao.FCenario},
                                               AImpPerComMov ? " LEFT JOIN" : "INNER JOIN",
-                                              Linha(CondicaoFilial(ADm)),
+                                              Linha(CondicaoFilial(ASelecao)),
                                               ProjecaoMensal,
                                               DescricaoDoPeriodo(15),
                                               PorPeriodo("", sql::GuardarPeriodo),
                                           });
 }
 
-std::string Juncoes(const TDM04618& ADm) {
-    if (ADm.FImprimirOrcamentariaBal)
+std::string Juncoes(const TSelecao& ASelecao) {
+    if (ASelecao.FImprimirOrcamentariaBal)
         return sql::JuncoesContas;
     return Format(sql::JuncoesTotalizadores,
                   {
-                      ADm.FIDDemac,
-                      ADm.FImprimirDetContasTotaliz ? "" : "\n  AND CO01_CTBORCADAVLR.IDPLANO IS NULL",
-                      ADm.FIDsTotalizadores.empty() ? "" : "\n  AND(" + ADm.FIDsTotalizadores + ")",
-                      base::Trim(ADm.FInformacoesCtbOrcadaInf.LListaIDs),
+                      ASelecao.FIDDemac,
+                      ASelecao.FImprimirDetContasTotaliz ? "" : "\n  AND CO01_CTBORCADAVLR.IDPLANO IS NULL",
+                      ASelecao.FIDsTotalizadores.empty() ? "" : "\n  AND(" + ASelecao.FIDsTotalizadores + ")",
+                      CondicaoProjecoes(ASelecao, "REPETIDA.IDCTBORCADAINF"),
                   });
 }
 
-std::string Condicoes(const TDM04618& ADm) {
-    const auto& LContas = ADm.FIDsContas;
-    const auto& LCentros = ADm.FIDsCentroCusto;
-    return Linha(CondicaoFilial(ADm)) + Linha(LContas.empty() ? "" : Format(sql::CondicaoContas, {LContas})) +
+std::string Condicoes(const TSelecao& ASelecao) {
+    const auto& LContas = ASelecao.FIDsContas;
+    const auto& LCentros = ASelecao.FIDsCentroCusto;
+    return Linha(CondicaoFilial(ASelecao)) + Linha(LContas.empty() ? "" : Format(sql::CondicaoContas, {LContas})) +
            Linha(LCentros.empty() ? "" : Format(sql::CondicaoCentroCusto, {LCentros}));
 }
 
@@ -83,9 +87,9 @@ std::string Condicoes(const TDM04618& ADm) {
 enum class TSoma { Inteira, EmPartes };
 
 // Percentages have four decimals until they stand in their column, and may have 100 taken off.
-std::string PercentualCabe(const TDM04618& ADm, const std::string& AValor, const std::string& ADivisor) {
+std::string PercentualCabe(const TSelecao& ASelecao, const std::string& AValor, const std::string& ADivisor) {
     return Format(sql::PercentualCabe,
-                  {AValor, ADivisor, ADm.FCalcularPercentualDiferenca ? "922337203685377" : "922337203685477.2"});
+                  {AValor, ADivisor, ASelecao.FCalcularPercentualDiferenca ? "922337203685377" : "922337203685477.2"});
 }
 
 std::string ColunasDaSoma(const std::string& ANome, const std::string& AQuando, const std::string& ABaixo,
@@ -108,64 +112,64 @@ std::string PercentualOrcado(TSoma ASoma, const std::string& ANome, const std::s
                          Format(sql::ParteAlta, {sql::PercentualOrcado}), "NULL");
 }
 
-std::string PercentualRealizado(const TDM04618& ADm, TSoma ASoma, const std::string& ANome,
+std::string PercentualRealizado(const TSelecao& ASelecao, TSoma ASoma, const std::string& ANome,
                                 const std::string& APeriodo) {
-    const std::string LColuna = SobreBase(ADm) ? LinhaBase.Coluna : LinhaOrcado.Coluna;
+    const std::string LColuna = SobreBase(ASelecao) ? LinhaBase.Coluna : LinhaOrcado.Coluna;
     const auto LDivisor = "CO01_CTBORCADAVLR." + LColuna;
     const auto LQuando = APeriodo + " AND (COALESCE(" + LDivisor + ",0) <> 0)";
     const auto LPercentual = Format(sql::PercentualRealizado, {LColuna});
     if (ASoma == TSoma::Inteira)
-        return Format(sql::SomaDoPeriodo, {ANome, LQuando, LPercentual + " " + Diferenca(ADm), "0"});
+        return Format(sql::SomaDoPeriodo, {ANome, LQuando, LPercentual + " " + Diferenca(ASelecao), "0"});
     const std::string LRealizado = "COALESCE(CO01_CTBORCADAVLR.VLRREALIZADO,0)";
     const auto LPequeno = Format(sql::PercentualCabe, {LRealizado, LDivisor, "1E9"});
-    const auto LCabe = PercentualCabe(ADm, LRealizado, LDivisor);
-    return ColunasDaSoma(ANome, LQuando, Format(sql::PercentualBaixo, {LPercentual, LPequeno, LCabe, Diferenca(ADm)}),
+    const auto LCabe = PercentualCabe(ASelecao, LRealizado, LDivisor);
+    return ColunasDaSoma(ANome, LQuando,
+                         Format(sql::PercentualBaixo, {LPercentual, LPequeno, LCabe, Diferenca(ASelecao)}),
                          Format(sql::PercentualAlto, {LPequeno, LCabe, LPercentual}), "0");
 }
 
 // Value and percentage of a line in one period.
-std::string ColunasDoPeriodo(const TDM04618& ADm, TSoma ASoma, const TTipoLinha& ALinha, std::int64_t APeriodo) {
+std::string ColunasDoPeriodo(const TSelecao& ASelecao, TSoma ASoma, const TTipoLinha& ALinha, std::int64_t APeriodo) {
     const auto LQuando = Format(sql::NoPeriodo, {APeriodo});
     const auto LNumero = std::to_string(APeriodo);
     const auto LValor = Valor(ASoma, "VAL" + LNumero, LQuando, std::string("CO01_CTBORCADAVLR.") + ALinha.Coluna);
     const auto LSemPercentual = Format(sql::SemPercentual, {APeriodo});
-    if (Vertical(ADm))
+    if (Vertical(ASelecao))
         return LValor +
                Valor(ASoma, "VALVERT" + LNumero, LQuando, std::string("CTBORCADAVLRRELVERT.") + ALinha.Coluna) +
                LSemPercentual;
     if (ALinha.Tipo == LinhaOrcado.Tipo)
         return LValor + PercentualOrcado(ASoma, "PERC" + LNumero, LQuando);
     if (ALinha.Tipo == LinhaRealizado.Tipo)
-        return LValor + PercentualRealizado(ADm, ASoma, "PERC" + LNumero, LQuando);
+        return LValor + PercentualRealizado(ASelecao, ASoma, "PERC" + LNumero, LQuando);
     return LValor + LSemPercentual + (ASoma == TSoma::EmPartes ? ", NULL AS ALTOPERC" + LNumero : "");
 }
 
-std::string LinhasDoTipo(const TDM04618& ADm, TSoma ASoma, const TTipoLinha& ALinha) {
-    const bool LSeparaFiliais = !ADm.FAgruparValFiliais && !ADm.FEhConsolidadoHolding;
+std::string LinhasDoTipo(const TSelecao& ASelecao, TSoma ASoma, const TTipoLinha& ALinha) {
     return Format(sql::LinhasDoTipo,
                   {
                       ALinha.Tipo,
                       ALinha.Letra,
-                      Recuado(ADm.FImprimirOrcamentariaBal ? sql::CabecaContas : sql::CabecaTotalizadores, 15),
-                      LSeparaFiliais ? "COALESCE(SC00_FILIAL.FILIAL, 0) AS FILIAL" : "0 AS FILIAL",
+                      Recuado(ASelecao.FImprimirOrcamentariaBal ? sql::CabecaContas : sql::CabecaTotalizadores, 15),
+                      ColunaFilial(ASelecao),
                       ALinha.Ano,
-                      PorPeriodo("", [&](std::int64_t I) { return ColunasDoPeriodo(ADm, ASoma, ALinha, I); }),
-                      Recuado(Juncoes(ADm), 9),
-                      base::Trim(ADm.FInformacoesCtbOrcadaInf.LListaIDs),
-                      Condicoes(ADm),
+                      PorPeriodo("", [&](std::int64_t I) { return ColunasDoPeriodo(ASelecao, ASoma, ALinha, I); }),
+                      Recuado(Juncoes(ASelecao), 9),
+                      CondicaoProjecoes(ASelecao, "CO01_CTBORCADAINF.IDCTBORCADAINF"),
+                      Condicoes(ASelecao),
                   });
 }
 
 // The line types that are on, one below the other.
-std::string Linhas(const TDM04618& ADm, TSoma ASoma) {
+std::string Linhas(const TSelecao& ASelecao, TSoma ASoma) {
     std::string LTexto;
     const auto LAcrescentar = [&](bool ALigada, const TTipoLinha& ALinha) {
         if (ALigada)
-            LTexto += (LTexto.empty() ? "" : "\n        UNION ALL\n") + LinhasDoTipo(ADm, ASoma, ALinha);
+            LTexto += (LTexto.empty() ? "" : "\n        UNION ALL\n") + LinhasDoTipo(ASelecao, ASoma, ALinha);
     };
-    LAcrescentar(ADm.FDetalharLinhaVlrBase, LinhaBase);
-    LAcrescentar(ADm.FDetalharLinhaVlrOrcado, LinhaOrcado);
-    LAcrescentar(ADm.FDetalharLinhaVlrRealizado, LinhaRealizado);
+    LAcrescentar(ASelecao.FDetalharLinhaVlrBase, LinhaBase);
+    LAcrescentar(ASelecao.FDetalharLinhaVlrOrcado, LinhaOrcado);
+    LAcrescentar(ASelecao.FDetalharLinhaVlrRealizado, LinhaRealizado);
     return LTexto;
 }
 
@@ -179,16 +183,16 @@ std::string JuntarPartes(const char* ATotal, const std::string& AColuna) {
            });
 }
 
-std::string PercentualVertical(const TDM04618& ADm, const std::string& APercentual, const std::string& AValor,
+std::string PercentualVertical(const TSelecao& ASelecao, const std::string& APercentual, const std::string& AValor,
                                const std::string& ABase) {
     return Format(sql::PercentualVertical,
-                  {APercentual, AValor, ABase, PercentualCabe(ADm, ":" + AValor, ":" + ABase)});
+                  {APercentual, AValor, ABase, PercentualCabe(ASelecao, ":" + AValor, ":" + ABase)});
 }
 
-std::string TotaisVerticais(const TDM04618& ADm, TSoma ASoma) {
+std::string TotaisVerticais(const TSelecao& ASelecao, TSoma ASoma) {
     const auto LPercentuais = PorPeriodo("\n", [&](std::int64_t I) {
         const auto LNumero = std::to_string(I);
-        return PercentualVertical(ADm, "PERC" + LNumero, "VAL" + LNumero, "VALVERT" + LNumero);
+        return PercentualVertical(ASelecao, "PERC" + LNumero, "VAL" + LNumero, "VALVERT" + LNumero);
     });
     return Format(
         sql::TotaisDaLinhaVertical,
@@ -196,12 +200,12 @@ std::string TotaisVerticais(const TDM04618& ADm, TSoma ASoma) {
             PorPeriodo(" + ", "VAL%0:d"),
             PorPeriodo(" + ", "VALVERT%0:d"),
             ASoma == TSoma::Inteira ? "" : JuntarPartes("TOTAL", "VAL") + JuntarPartes("TOTALVERT", "VALVERT"),
-            LPercentuais + "\n" + PercentualVertical(ADm, "PERCTOT", "TOTAL", "TOTALVERT"),
+            LPercentuais + "\n" + PercentualVertical(ASelecao, "PERCTOT", "TOTAL", "TOTALVERT"),
         });
 }
 
-std::string TotaisSimples(const TDM04618& ADm, TSoma ASoma) {
-    const std::string LDivisor = SobreBase(ADm) ? ":LTOTALBASE" : ":LTOTALORCADO";
+std::string TotaisSimples(const TSelecao& ASelecao, TSoma ASoma) {
+    const std::string LDivisor = SobreBase(ASelecao) ? ":LTOTALBASE" : ":LTOTALORCADO";
     const auto LPercentuais = PorPeriodo("", [](std::int64_t I) {
         return Format(sql::Juntar, {"LPERC" + std::to_string(I), "ALTOPERC" + std::to_string(I)}) +
                Format(sql::PercentualDoPeriodo, {I});
@@ -209,9 +213,9 @@ std::string TotaisSimples(const TDM04618& ADm, TSoma ASoma) {
     return Format(sql::TotaisDaLinha, {
                                           PorPeriodo(" + ", "VAL%0:d"),
                                           LDivisor,
-                                          Diferenca(ADm),
+                                          Diferenca(ASelecao),
                                           ASoma == TSoma::Inteira ? "" : JuntarPartes("TOTAL", "VAL") + LPercentuais,
-                                          PercentualCabe(ADm, ":LTOTALREALIZADO", LDivisor),
+                                          PercentualCabe(ASelecao, ":LTOTALREALIZADO", LDivisor),
                                       });
 }
 
@@ -230,43 +234,42 @@ std::string Identificacao() {
            Format(sql::MarcaDaLinha, {sql::MarcaAlemDoLimite, Nome - sql::TamanhoDaMarca});
 }
 
-const char* Destino(const TDM04618& ADm, TSoma ASoma) {
-    if (Vertical(ADm))
+const char* Destino(const TSelecao& ASelecao, TSoma ASoma) {
+    if (Vertical(ASelecao))
         return ASoma == TSoma::Inteira ? sql::DestinoDoPeriodoVertical : sql::DestinoDoPeriodoVerticalEmPartes;
     return ASoma == TSoma::Inteira ? sql::DestinoDoPeriodo : sql::DestinoDoPeriodoEmPartes;
 }
 
-std::string Bloco(const TDM04618& ADm, TSoma ASoma, bool AImpPerComMov) {
-    const bool LVertical = Vertical(ADm);
-    const auto LTotais = LVertical ? TotaisVerticais(ADm, ASoma) : TotaisSimples(ADm, ASoma);
+std::string Bloco(const TSelecao& ASelecao, TSoma ASoma, bool AImpPerComMov) {
+    const bool LVertical = Vertical(ASelecao);
+    const auto LTotais = LVertical ? TotaisVerticais(ASelecao, ASoma) : TotaisSimples(ASelecao, ASoma);
     return Format(sql::Periodos, {
                                      PorPeriodo("", LVertical ? sql::RetornoDoPeriodoVertical : sql::RetornoDoPeriodo),
                                      LVertical ? "\n    TOTALVERT NUMERIC(15,2)," : "",
                                      PorPeriodo("", sql::VariaveisDoPeriodo) +
                                          (ASoma == TSoma::Inteira ? "" : PorPeriodo("", sql::VariaveisDasPartes)),
-                                     Varredura(ADm, AImpPerComMov),
-                                     Linhas(ADm, ASoma),
-                                     ADm.FImprimirOrcamentariaBal ? "ORDER BY 5, 7, 8, 11, 9, 1"
-                                                                  : "ORDER BY 4,14, 12, 13, 7, 8, 11, 9, 1",
-                                     PorPeriodo("", Destino(ADm, ASoma)),
+                                     Varredura(ASelecao, AImpPerComMov),
+                                     Linhas(ASelecao, ASoma),
+                                     ASelecao.FImprimirOrcamentariaBal ? "ORDER BY 5, 7, 8, 11, 9, 1"
+                                                                       : "ORDER BY 4,14, 12, 13, 7, 8, 11, 9, 1",
+                                     PorPeriodo("", Destino(ASelecao, ASoma)),
                                      LTotais + Identificacao(),
                                  });
 }
 
 } // namespace
 
-void TDM04618::BuscarDadosOrcamentariaBalancoOuDemonstConfigDemonstPeriodosEmColunas(host::TZTClientDataSet& ADataSet,
-                                                                                     host::TZTSQLDataSet& ASqlDataSet,
-                                                                                     bool AImpPerComMov) {
+void CarregarPeriodosEmColunas(const TSelecao& ASelecao, host::TZTClientDataSet& ADataSet,
+                               host::TZTSQLDataSet& ASqlDataSet, bool AImpPerComMov) {
     ADataSet.Close();
     ASqlDataSet.ParamCheck = false; // names with a colon are the block's own variables
-    ADataSet.CommandText = Bloco(*this, TSoma::Inteira, AImpPerComMov);
+    ADataSet.CommandText = Bloco(ASelecao, TSoma::Inteira, AImpPerComMov);
     try {
         ADataSet.Open();
     } catch (const base::TFalhaBanco& E) {
         if (E.Estado() != NumeroAlemDoLimite)
             throw;
-        ADataSet.CommandText = Bloco(*this, TSoma::EmPartes, AImpPerComMov);
+        ADataSet.CommandText = Bloco(ASelecao, TSoma::EmPartes, AImpPerComMov);
         ADataSet.Open();
     }
 }

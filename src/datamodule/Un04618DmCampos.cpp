@@ -1,4 +1,4 @@
-#include "core/Un04618Dm.h"
+#include "datamodule/Un04618Dm.h"
 
 namespace pct04618 {
 

@@ -1,4 +1,4 @@
-#include "core/Un04618Dm.h"
+#include "datamodule/Un04618Dm.h"
 
 namespace pct04618 {
 
@@ -41,7 +41,6 @@ TDM04618::TDM04618() {
 
     CdsMostraCtbOrcada.AfterOpen = [this](host::TDataSet& D) { CdsMostraCtbOrcadaAfterOpen(D); };
     CdsMostraCtbOrcMensal.AfterOpen = [this](host::TDataSet& D) { CdsMostraCtbOrcMensalAfterOpen(D); };
-    CdsCtbOrcadaInf.OnNewRecord = [this](host::TZTClientDataSet&) { CdsCtbOrcadaInfNewRecord(); };
     CdsCtbOrcadaVlr.OnNewRecord = [this](host::TZTClientDataSet&) { CdsCtbOrcadaVlrNewRecord(); };
     DspCtbOrcadaVlr.OnGetTableName = [this](std::string& T) { DspCtbOrcadaVlrGetTableName(T); };
 }
