@@ -2,6 +2,7 @@
 
 #include "base/Falhas.h"
 #include "base/Texto.h"
+#include "core/Lista.h"
 #include "core/SqlProjecoes.h"
 #include "core/Un04618Const.h"
 #include "host/DbManager.h"
@@ -76,21 +77,6 @@ std::string CondicaoPeriodoDoCalculo(const TSelecao& ASelecao) {
 }
 
 } // namespace
-
-std::string EstaNaLista(const std::string& AColuna, std::string_view ALista) {
-    constexpr int MaximoDoIn = 1500; // of the engine
-    const auto LIn = [&](std::string_view AIds) { return AColuna + " IN (" + base::Trim(AIds) + ")"; };
-    std::string LCondicao;
-    std::size_t LInicio = 0;
-    int LIds = 0;
-    for (std::size_t I = 0; I < ALista.size(); ++I)
-        if (ALista[I] == ',' && ++LIds % MaximoDoIn == 0) {
-            LCondicao += LIn(ALista.substr(LInicio, I - LInicio)) + "\n        OR ";
-            LInicio = I + 1;
-        }
-    LCondicao += LIn(ALista.substr(LInicio));
-    return LInicio > 0 ? "(" + LCondicao + ")" : LCondicao;
-}
 
 std::optional<TInformacoesCtbOrcadaInf> BuscarProjecoes(const TSelecao& ASelecao) {
     const auto LPeriodo = ClausulaPeriodo(ASelecao);

@@ -2,17 +2,11 @@
 
 #include "core/Un04618Selecao.h"
 
-#include <string_view>
-
 namespace pct04618 {
 
 // A header is monthly when it starts and ends in the same month of whatever year; any other goes by its year.
 inline constexpr const char* ProjecaoMensal =
     "EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAINICIO) = EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAFIM)";
-
-// That the column has one of the keys of a list like "1, 2, 3", which is not empty: an IN, or as many as the engine
-// needs for the number of keys, which it limits in each.
-std::string EstaNaLista(const std::string& AColuna, std::string_view ALista);
 
 // The projections that answer the selection. Nothing where there are none and the user has been told so; mode 5 goes on
 // without. Over more than twelve years modes 3 and 4 show a message and abort. A consolidated selection needs both

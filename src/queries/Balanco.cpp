@@ -1,6 +1,7 @@
 #include "queries/Balanco.h"
 
 #include "base/Texto.h"
+#include "core/Lista.h"
 #include "core/Un04618Const.h"
 #include "queries/Condicoes.h"
 #include "queries/SqlBalanco.h"
@@ -27,12 +28,13 @@ std::string CondicaoContas(const TSelecao& ASelecao) {
     if (ASelecao.FIDPlano > 0)
         return "AND CO01_PLANO.CLASSIFCONTAB LIKE " + ComecaPor(ASelecao.FClassificacao);
     if (!ASelecao.FIDsContas.empty())
-        return "AND(" + ASelecao.FIDsContas + ")";
+        return "AND(" + EstaEntreMarcados(ASelecao.FIDsContas) + ")";
     return {};
 }
 
 std::string CondicaoCentroCusto(const TSelecao& ASelecao) {
-    return ASelecao.FIDsCentroCusto.empty() ? std::string() : " AND (" + ASelecao.FIDsCentroCusto + ")";
+    return ASelecao.FIDsCentroCusto.empty() ? std::string()
+                                            : " AND (" + EstaEntreMarcados(ASelecao.FIDsCentroCusto) + ")";
 }
 
 std::string Baixa(const char* AColuna) { return "SUM(COALESCE(" + Format(sql::ParteBaixa, {AColuna}) + ", 0))"; }

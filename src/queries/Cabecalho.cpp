@@ -1,6 +1,7 @@
 #include "queries/Cabecalho.h"
 
 #include "base/Texto.h"
+#include "core/Lista.h"
 #include "core/Projecoes.h"
 #include "core/Un04618Const.h"
 #include "queries/Condicoes.h"

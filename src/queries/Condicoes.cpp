@@ -1,7 +1,7 @@
 #include "queries/Condicoes.h"
 
 #include "base/Texto.h"
-#include "core/Projecoes.h"
+#include "core/Lista.h"
 
 namespace pct04618 {
 

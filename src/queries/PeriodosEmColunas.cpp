@@ -2,6 +2,7 @@
 
 #include "base/Falhas.h"
 #include "base/Texto.h"
+#include "core/Lista.h"
 #include "core/Projecoes.h"
 #include "core/Un04618Const.h"
 #include "queries/Condicoes.h"
@@ -66,20 +67,22 @@ std::string Varredura(const TSelecao& ASelecao, bool AImpPerComMov) {
 std::string Juncoes(const TSelecao& ASelecao) {
     if (ASelecao.FImprimirOrcamentariaBal)
         return sql::JuncoesContas;
-    return Format(sql::JuncoesTotalizadores,
-                  {
-                      ASelecao.FIDDemac,
-                      ASelecao.FImprimirDetContasTotaliz ? "" : "\n  AND CO01_CTBORCADAVLR.IDPLANO IS NULL",
-                      ASelecao.FIDsTotalizadores.empty() ? "" : "\n  AND(" + ASelecao.FIDsTotalizadores + ")",
-                      CondicaoProjecoes(ASelecao, "REPETIDA.IDCTBORCADAINF"),
-                  });
+    return Format(
+        sql::JuncoesTotalizadores,
+        {
+            ASelecao.FIDDemac,
+            ASelecao.FImprimirDetContasTotaliz ? "" : "\n  AND CO01_CTBORCADAVLR.IDPLANO IS NULL",
+            ASelecao.FIDsTotalizadores.empty() ? "" : "\n  AND(" + EstaEntreMarcados(ASelecao.FIDsTotalizadores) + ")",
+            CondicaoProjecoes(ASelecao, "REPETIDA.IDCTBORCADAINF"),
+        });
 }
 
 std::string Condicoes(const TSelecao& ASelecao) {
     const auto& LContas = ASelecao.FIDsContas;
     const auto& LCentros = ASelecao.FIDsCentroCusto;
-    return Linha(CondicaoFilial(ASelecao)) + Linha(LContas.empty() ? "" : Format(sql::CondicaoContas, {LContas})) +
-           Linha(LCentros.empty() ? "" : Format(sql::CondicaoCentroCusto, {LCentros}));
+    return Linha(CondicaoFilial(ASelecao)) +
+           Linha(LContas.empty() ? "" : Format(sql::CondicaoContas, {EstaEntreMarcados(LContas)})) +
+           Linha(LCentros.empty() ? "" : Format(sql::CondicaoCentroCusto, {EstaEntreMarcados(LCentros)}));
 }
 
 // How the amounts of a line are summed. Whole is what nearly every database takes. In parts no sum overflows, and what
