@@ -1,6 +1,7 @@
 #include "consultation/EstruturaGrades.h"
 
 #include "base/Falhas.h"
+#include "consultation/NomesDosPeriodos.h"
 #include "core/Un04618Const.h"
 
 #include <algorithm>
@@ -61,16 +62,16 @@ host::TColunaGrade& Achar(TColunasGrade& AColunas, const std::string& ACampo) {
     return *LColuna;
 }
 
-void EstruturarColunaPeriodo(TColunasGrade& AColunas, const host::TDataSet& ADataSet, const std::string& ANumero) {
-    const auto* LPeriodo = ADataSet.FindField("PER" + ANumero);
-    if (!LPeriodo)
-        throw base::TFalha(ADataSet.Nome() + " não tem o campo PER" + ANumero + ".");
+// AExtenso is the period without a neighbour to explain it; empty where there is no such period.
+void EstruturarColunaPeriodo(TColunasGrade& AColunas, const std::string& ANumero, const std::string& ATitulo,
+                             const std::string& AExtenso) {
     auto& LValor = Achar(AColunas, "VAL" + ANumero);
-    LValor.Titulo = LPeriodo->AsString();
-    LValor.Visivel = !LValor.Titulo.empty();
+    LValor.Titulo = ATitulo;
+    LValor.Extenso = AExtenso;
+    LValor.Visivel = !ATitulo.empty();
     auto& LPercentual = Achar(AColunas, "PERC" + ANumero);
+    LPercentual.Extenso = LPercentual.Titulo + " " + AExtenso;
     LPercentual.Visivel = LValor.Visivel;
-    LPercentual.Extenso = LPercentual.Titulo + " " + LValor.Titulo;
 }
 
 void AplicarPadrao(TColunasGrade& AColunas, std::initializer_list<const char*> AOcultas) {
@@ -156,9 +157,19 @@ host::TRegraDasLinhas LinhasDbtvMostraCtbOrcMensal() {
     return LLinhas;
 }
 
-TColunasGrade EstruturarColunasPeriodo(TColunasGrade AColunas, const host::TDataSet& ADataSet) {
-    for (int I = 1; I <= MaximoPeriodosEmColunas; ++I)
-        EstruturarColunaPeriodo(AColunas, ADataSet, std::to_string(I));
+TColunasGrade EstruturarColunasPeriodo(TColunasGrade AColunas, const host::TDataSet& ADataSet,
+                                       const std::vector<TPeriodoEmColuna>& APeriodos) {
+    std::vector<std::string> LTitulos;
+    for (int I = 1; I <= MaximoPeriodosEmColunas; ++I) {
+        const auto LCampo = "PER" + std::to_string(I);
+        const auto* LPeriodo = ADataSet.FindField(LCampo);
+        if (!LPeriodo)
+            throw base::TFalha(ADataSet.Nome() + " não tem o campo " + LCampo + ".");
+        LTitulos.push_back(LPeriodo->AsString());
+    }
+    const auto LNomes = NomesUnicos(LTitulos, APeriodos);
+    for (std::size_t I = 0; I < LTitulos.size(); ++I)
+        EstruturarColunaPeriodo(AColunas, std::to_string(I + 1), LTitulos[I], LNomes[I]);
     return AColunas;
 }
 

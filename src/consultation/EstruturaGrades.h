@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/Un04618Types.h"
 #include "host/Grade.h"
 
 #include <vector>
@@ -15,8 +16,10 @@ TColunasGrade ColunasDbtvMostraCtbOrcMensal();
 host::TRegraDasLinhas LinhasDbtvCtbOrcada();
 host::TRegraDasLinhas LinhasDbtvMostraCtbOrcMensal();
 
-// Captions and visibility of the period columns, from the periods that the current record names.
-TColunasGrade EstruturarColunasPeriodo(TColunasGrade AColunas, const host::TDataSet& ADataSet);
+// Captions and visibility of the period columns, from the periods that the current record names. In full a column goes
+// by its period alone, which APeriodos tells apart where names repeat.
+TColunasGrade EstruturarColunasPeriodo(TColunasGrade AColunas, const host::TDataSet& ADataSet,
+                                       const std::vector<TPeriodoEmColuna>& APeriodos = {});
 
 // What the default layout of each grid makes sure of: grouped by establishment first, and the columns hidden that only
 // the rules read.

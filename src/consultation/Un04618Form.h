@@ -1,5 +1,6 @@
 #pragma once
 
+#include "consultation/EstruturaGrades.h"
 #include "consultation/RegrasCelulas.h"
 #include "datamodule/Un04618Dm.h"
 #include "host/Leiaute.h"
@@ -40,6 +41,7 @@ class TForm04618 final : public host::TFormZTTandorPadraoSelecao {
     void ConfigurarGrades();
     void InicializarGrades();
     void EstruturarColGridCtbOrcMensal();
+    TColunasGrade ComOsPeriodos(TColunasGrade AColunas) const;
     void AtualizarTituloRelatorio();
     void ExpandirTableView(const host::TGrade& AView);
     void DbtvCtbOrcadaDataControllerGroupingChanged() { ExpandirTableView(DbgCtbOrcada); }

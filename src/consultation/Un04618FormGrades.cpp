@@ -1,5 +1,4 @@
 #include "base/Texto.h"
-#include "consultation/EstruturaGrades.h"
 #include "consultation/Un04618Form.h"
 #include "host/Servicos.h"
 
@@ -73,8 +72,8 @@ void TForm04618::ConfigurarGrades() {
         if (!APadrao)
             return;
         AplicarPadraoDbtvMostraCtbOrcMensal(AColunas);
-        if (const auto& LDados = GetDm04618().CdsMostraCtbOrcMensal; !LDados.IsEmpty())
-            AColunas = EstruturarColunasPeriodo(std::move(AColunas), LDados);
+        if (!GetDm04618().CdsMostraCtbOrcMensal.IsEmpty())
+            AColunas = ComOsPeriodos(std::move(AColunas));
     };
 }
 
@@ -94,8 +93,12 @@ host::TGrade* TForm04618::GradeEmVista() {
 }
 
 void TForm04618::EstruturarColGridCtbOrcMensal() {
-    DbgMostraCtbOrcMensal.SetColunas(
-        EstruturarColunasPeriodo(DbgMostraCtbOrcMensal.Colunas(), GetDm04618().CdsMostraCtbOrcMensal));
+    DbgMostraCtbOrcMensal.SetColunas(ComOsPeriodos(DbgMostraCtbOrcMensal.Colunas()));
+}
+
+TColunasGrade TForm04618::ComOsPeriodos(TColunasGrade AColunas) const {
+    const auto& LDm = GetDm04618();
+    return EstruturarColunasPeriodo(std::move(AColunas), LDm.CdsMostraCtbOrcMensal, LDm.FPeriodosDeMesmoNome);
 }
 
 void TForm04618::AtualizarTituloRelatorio() {

@@ -29,6 +29,14 @@ struct TInformacoesCtbOrcadaInf {
     std::int32_t TpCCusto = 0;     // detail by cost centre of the last matching header, 0 where it is null
 };
 
+// A period that is a column of its own: its days, and those of its reference balance. What a header lacks is blank.
+struct TPeriodoEmColuna {
+    base::TDataHora Inicio;
+    base::TDataHora Fim;
+    base::TDataHora InicioBalancoRef;
+    base::TDataHora FimBalancoRef;
+};
+
 using TStringList = std::vector<std::string>;
 
 } // namespace pct04618

@@ -17,6 +17,9 @@ class TDM04618 : public host::TDmZTTandorPadrao, public TSelecao {
     TDM04618();
     ~TDM04618() override;
 
+    // Of the last result with periods in columns: what its columns are, where two have the same name; else empty.
+    std::vector<TPeriodoEmColuna> FPeriodosDeMesmoNome;
+
     // One chain each: SQL dataset, provider, client dataset. Code works on the client dataset.
     host::TZTSQLDataSet SdsMostraCtbOrcada{"SdsMostraCtbOrcada"};
     host::TZTDataSetProvider DspMostraCtbOrcada{"DspMostraCtbOrcada", SdsMostraCtbOrcada};

@@ -36,7 +36,9 @@ std::string TDM04618::BuscarDadosOrcamentariaComBaseNoBalanco() const { return I
 void TDM04618::BuscarDadosOrcamentariaBalancoOuDemonstConfigDemonstPeriodosEmColunas(host::TZTClientDataSet& ADataSet,
                                                                                      host::TZTSQLDataSet& ASqlDataSet,
                                                                                      bool AImpPerComMov) {
+    FPeriodosDeMesmoNome.clear();
     CarregarPeriodosEmColunas(*this, ADataSet, ASqlDataSet, AImpPerComMov);
+    FPeriodosDeMesmoNome = BuscarPeriodosDeMesmoNome(*this, ADataSet, AImpPerComMov);
 }
 
 void TDM04618::BuscarCabecalhoOrcamentaria(host::TZTClientDataSet& ADataSet, TDetalharSelecao ADetalharSelecao) const {

@@ -5,11 +5,14 @@
 #include "core/Lista.h"
 #include "core/Projecoes.h"
 #include "core/Un04618Const.h"
+#include "host/DbManager.h"
 #include "queries/Condicoes.h"
 #include "queries/Periodo.h"
 #include "queries/SqlLimites.h"
 #include "queries/SqlPeriodos.h"
 #include "queries/SqlPeriodosLinhas.h"
+
+#include <set>
 
 namespace pct04618 {
 
@@ -52,16 +55,15 @@ bool SobreBase(const TSelecao& ASelecao) {
 }
 const char* Diferenca(const TSelecao& ASelecao) { return ASelecao.FCalcularPercentualDiferenca ? "-100" : ""; }
 
-std::string Varredura(const TSelecao& ASelecao, bool AImpPerComMov) {
-    return Format(sql::VarreduraPeriodos, {
-                                              CondicaoProjecoes(ASelecao, "CO01_CTBORCADAINF.IDCTBORCADAINF"),
-                                              std::int64_t{ASelecao.FCenario},
-                                              AImpPerComMov ? " LEFT JOIN" : "INNER JOIN",
-                                              Linha(CondicaoFilial(ASelecao)),
-                                              ProjecaoMensal,
-                                              DescricaoDoPeriodo(15),
-                                              PorPeriodo("", sql::GuardarPeriodo),
-                                          });
+std::string SelecaoDosPeriodos(const TSelecao& ASelecao, bool AImpPerComMov) {
+    return Format(sql::SelecaoDosPeriodos, {
+                                               CondicaoProjecoes(ASelecao, "CO01_CTBORCADAINF.IDCTBORCADAINF"),
+                                               std::int64_t{ASelecao.FCenario},
+                                               AImpPerComMov ? " LEFT JOIN" : "INNER JOIN",
+                                               Linha(CondicaoFilial(ASelecao)),
+                                               ProjecaoMensal,
+                                               DescricaoDoPeriodo(15),
+                                           });
 }
 
 std::string Juncoes(const TSelecao& ASelecao) {
@@ -251,7 +253,8 @@ std::string Bloco(const TSelecao& ASelecao, TSoma ASoma, bool AImpPerComMov) {
                                      LVertical ? "\n    TOTALVERT NUMERIC(15,2)," : "",
                                      PorPeriodo("", sql::VariaveisDoPeriodo) +
                                          (ASoma == TSoma::Inteira ? "" : PorPeriodo("", sql::VariaveisDasPartes)),
-                                     Varredura(ASelecao, AImpPerComMov),
+                                     Format(sql::VarreduraPeriodos, {SelecaoDosPeriodos(ASelecao, AImpPerComMov),
+                                                                     PorPeriodo("", sql::GuardarPeriodo)}),
                                      Linhas(ASelecao, ASoma),
                                      ASelecao.FImprimirOrcamentariaBal ? "ORDER BY 5, 7, 8, 11, 9, 1"
                                                                        : "ORDER BY 4,14, 12, 13, 7, 8, 11, 9, 1",
@@ -275,6 +278,29 @@ void CarregarPeriodosEmColunas(const TSelecao& ASelecao, host::TZTClientDataSet&
         ADataSet.CommandText = Bloco(ASelecao, TSoma::EmPartes, AImpPerComMov);
         ADataSet.Open();
     }
+}
+
+std::vector<TPeriodoEmColuna> BuscarPeriodosDeMesmoNome(const TSelecao& ASelecao, const host::TDataSet& ADataSet,
+                                                        bool AImpPerComMov) {
+    std::vector<std::string> LNomes;
+    for (int I = 1; I <= MaximoPeriodosEmColunas && !ADataSet.IsEmpty(); ++I)
+        if (const auto* LCampo = ADataSet.FindField("PER" + std::to_string(I)); LCampo && !LCampo->IsNull())
+            LNomes.push_back(LCampo->AsString());
+    if (std::set(LNomes.begin(), LNomes.end()).size() == LNomes.size())
+        return {};
+    const auto LConsulta = host::BuscarInstanciaZTUtilsDbManager().AbrirConsultaSQL(
+        SelecaoDosPeriodos(ASelecao, AImpPerComMov), "períodos das colunas");
+    std::vector<TPeriodoEmColuna> LPeriodos;
+    for (LConsulta->First(); !LConsulta->Eof() && LPeriodos.size() < LNomes.size(); LConsulta->Next()) {
+        if (LConsulta->FieldByName("PER").AsString() != LNomes[LPeriodos.size()])
+            return {}; // somebody has written in between
+        const auto LData = [&](const char* ACampo) {
+            return LConsulta->FieldByName(ACampo).AsDateTime().value_or(base::TDataHora());
+        };
+        LPeriodos.push_back(
+            {LData("DATAINICIO"), LData("DATAFIM"), LData("DATAIBALANCOREF"), LData("DATAFBALANCOREF")});
+    }
+    return LPeriodos.size() == LNomes.size() ? LPeriodos : std::vector<TPeriodoEmColuna>();
 }
 
 } // namespace pct04618

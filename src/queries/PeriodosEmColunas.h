@@ -11,4 +11,9 @@ namespace pct04618 {
 void CarregarPeriodosEmColunas(const TSelecao& ASelecao, host::TZTClientDataSet& ADataSet,
                                host::TZTSQLDataSet& ASqlDataSet, bool AImpPerComMov);
 
+// The periods of the columns of that result, where two have the same name and it takes their dates to tell them apart;
+// else none.
+std::vector<TPeriodoEmColuna> BuscarPeriodosDeMesmoNome(const TSelecao& ASelecao, const host::TDataSet& ADataSet,
+                                                        bool AImpPerComMov);
+
 } // namespace pct04618

@@ -82,13 +82,10 @@ BEGIN
     END
 END)";
 
-// The periods in order, as many as there are columns; the labels are those of the last one. The keys behind year and
-// month only keep periods that start together in an order of their own.
+// The periods in order. The keys behind year and month only keep periods that start together in an order of their own.
 // %0:s condition on the headers, %1:d scenario, %2:s kind of join, %3:s establishment, %4:s whether a header is
-// monthly, %5:s what its period is called, %6:s storing of a period in its column.
-inline constexpr const char* VarreduraPeriodos = R"(    LCOUNTTPPERIODO = 1;
-    FOR
-        SELECT DISTINCT
+// monthly, %5:s what its period is called.
+inline constexpr const char* SelecaoDosPeriodos = R"(        SELECT DISTINCT
                CO01_CTBORCADAINF.DATAINICIO,
                CO01_CTBORCADAINF.DATAFIM,
                CO01_CTBORCADAINF.DATAIBALANCOREF,
@@ -107,7 +104,13 @@ inline constexpr const char* VarreduraPeriodos = R"(    LCOUNTTPPERIODO = 1;
            AND CO01_CTBORCADAINF.TPCENARIO = %1:d%3:s
          ORDER BY EXTRACT(YEAR FROM CO01_CTBORCADAINF.DATAINICIO),
                   EXTRACT(MONTH FROM CO01_CTBORCADAINF.DATAINICIO),
-                  1, 2, 3, 4
+                  1, 2, 3, 4)";
+
+// Its scan: as many as there are columns; the labels are those of the last one. %0:s the select, %1:s storing of a
+// period in its column.
+inline constexpr const char* VarreduraPeriodos = R"(    LCOUNTTPPERIODO = 1;
+    FOR
+%0:s
           INTO :LDATAINICIO,
                :LDATAFIM,
                :LDATAIBALANCOREF,
@@ -118,7 +121,7 @@ inline constexpr const char* VarreduraPeriodos = R"(    LCOUNTTPPERIODO = 1;
                :LANOREALIZ,
                :LPER
     DO
-    BEGIN%6:s
+    BEGIN%1:s
         LCOUNTTPPERIODO = LCOUNTTPPERIODO + 1;
     END
 )";

@@ -218,6 +218,36 @@ TEST_F(Janela, PeriodosDaoNomeAsColunasEAsDemaisSomem) {
     EXPECT_FALSE(Dados("CdsMostraCtbOrcMensal").Active());
 }
 
+TEST_F(Janela, PeriodosDeMesmoNomeDizemQueAnoOuQueDatasSao) {
+    Projecao("5 1 - 0 01/01/2025 31/01/2025");
+    Projecao("6 1 - 0 01/01/2025 31/03/2025");
+    Projecao("7 1 - 0 01/03/2025 31/12/2025");
+    Projecao("8 1 - 0 01/04/2025 30/04/2025"); // without rows
+    for (const char* projecao : {"5", "6", "7"})
+        Valor("IDCTBORCADAINF, IDPLANO, IDFILIAL, VLRORCADO", std::string(projecao) + ", 101, 12, 1");
+    const auto periodos = [&] {
+        std::string texto;
+        for (const auto& coluna : Grade("DbgMostraCtbOrcMensal").Colunas())
+            if (coluna.Visivel && (coluna.Campo.starts_with("VAL") || coluna.Campo.starts_with("PERC")))
+                texto += coluna.Titulo + "=" + coluna.Extenso + "; ";
+        return texto;
+    };
+    Consultar("01/01/2024", "31/12/2025", "3", "BOR");
+    EXPECT_EQ("Janeiro=Janeiro 2024; %=% Janeiro 2024; Abril=Abril; %=% Abril; Janeiro=Janeiro 2025; %=% Janeiro 2025; "
+              "2025=2025 (01/01/2025 a 31/03/2025); %=% 2025 (01/01/2025 a 31/03/2025); "
+              "2025=2025 (01/03/2025 a 31/12/2025); %=% 2025 (01/03/2025 a 31/12/2025); %=% Total; ",
+              periodos());
+    Selecionar([](FormDriver& usuario) {
+        Preencher(usuario, "01/01/2024", "31/12/2025", "3");
+        usuario.define("ChkPerSemMov", "1");
+        usuario.click("actOK");
+    });
+    EXPECT_NE(std::string::npos, periodos().find("Abril=Abril 2025; ")) << "the period without rows is there too";
+    Consultar("01/01/2024", "30/04/2024", "3", "BOR");
+    EXPECT_EQ("Janeiro=Janeiro; %=% Janeiro; Fevereiro=Fevereiro; %=% Fevereiro; Abril=Abril; %=% Abril; %=% Total; ",
+              periodos());
+}
+
 TEST_F(Janela, ModosDeRelatorioImprimemAMenosQueODialogoSejaDeixado) {
     Consultar("01/01/2024", "31/01/2024", "1");
     Consultar("01/03/2024", "31/03/2024", "5");

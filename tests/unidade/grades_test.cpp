@@ -2,12 +2,14 @@
 #include "apoio/Hospedeiro.h"
 #include "base/Falhas.h"
 #include "consultation/EstruturaGrades.h"
+#include "consultation/NomesDosPeriodos.h"
 #include "consultation/RegrasCelulas.h"
 #include "host/Leiaute.h"
 #include "suite/program/LayoutStore.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -226,6 +228,35 @@ TEST(EstruturaGrades, ColunasNaOrdemComOQueSeVe) {
                   coluna.Formato)
             << coluna.Campo;
     }
+}
+
+TEST(NomesDosPeriodos, RepetidosDizemOQueOsDistingue) {
+    const auto dia = [](const char* texto) { return *texto ? *base::TDataHora::DeTexto(texto) : base::TDataHora(); };
+    const auto nomes = [&](const std::vector<std::array<const char*, 5>>& periodos) {
+        Lista lista;
+        std::vector<pct04618::TPeriodoEmColuna> datas;
+        for (const auto& [nome, inicio, fim, inicioRef, fimRef] : periodos) {
+            lista.push_back(nome);
+            datas.push_back({dia(inicio), dia(fim), dia(inicioRef), dia(fimRef)});
+        }
+        return pct04618::NomesUnicos(lista, datas);
+    };
+    EXPECT_EQ((Lista{"Novembro", "Janeiro 2023", "Janeiro 2024"}),
+              nomes({{"Novembro", "01/11/2022", "30/11/2022", "", ""},
+                     {"Janeiro", "01/01/2023", "31/01/2023", "", ""},
+                     {"Janeiro", "01/01/2024", "31/01/2024", "", ""}}));
+    EXPECT_EQ((Lista{"2023 (01/01/2023 a 31/03/2023)", "2023 (01/01/2023 a 31/12/2023)", "2024"}),
+              nomes({{"2023", "01/01/2023", "31/03/2023", "", ""},
+                     {"2023", "01/01/2023", "31/12/2023", "", ""},
+                     {"2024", "01/01/2024", "31/12/2024", "", ""}}))
+        << "the name is the year";
+    EXPECT_EQ((Lista{"Janeiro 2023", "Janeiro 2024 (01/01/2024 a 31/01/2024) (base de 01/01/2022 a 31/12/2022)",
+                     "Janeiro 2024 (01/01/2024 a 31/01/2024) (sem base)", "Janeiro 2024 (01/01/2024 a 31/01/2025)"}),
+              nomes({{"Janeiro", "01/01/2023", "31/01/2023", "", ""},
+                     {"Janeiro", "01/01/2024", "31/01/2024", "01/01/2022", "31/12/2022"},
+                     {"Janeiro", "01/01/2024", "31/01/2024", "", ""},
+                     {"Janeiro", "01/01/2024", "31/01/2025", "", ""}}));
+    EXPECT_EQ((Lista{"Maio", "Maio"}), pct04618::NomesUnicos({"Maio", "Maio"}, {}));
 }
 
 namespace {
