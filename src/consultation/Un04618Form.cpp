@@ -92,6 +92,13 @@ void TForm04618::MostrarResultado() {
     AtualizarTituloRelatorio();
 }
 
+// Every commit closes the earlier result, so that an open one is that of the last.
+std::vector<host::TCriterio> TForm04618::Criterios() const {
+    const auto& LDm = GetDm04618();
+    const bool LTem = FFormSelecao && (LDm.CdsMostraCtbOrcada.Active() || LDm.CdsMostraCtbOrcMensal.Active());
+    return LTem ? FFormSelecao->Criterios() : std::vector<host::TCriterio>();
+}
+
 void TForm04618::ActImprimirExecute() {
     host::GZTUtilsDialogs.Informacao("A impressão deste modo ainda não faz parte desta versão.");
 }

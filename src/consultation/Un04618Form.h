@@ -28,6 +28,7 @@ class TForm04618 final : public host::TFormZTTandorPadraoSelecao {
     // that of the query module, and an abort of its validation passes.
     void ActSelecionarExecute(host::TControle* ASender) override;
     host::TGrade* GradeEmVista() override;
+    std::vector<host::TCriterio> Criterios() const override;
 
   private:
     void ExecutarSelecao(host::TControle* ASender);

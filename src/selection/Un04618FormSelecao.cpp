@@ -87,6 +87,7 @@ void TForm04618Selecao::ActOKExecute(host::TControle*) {
     };
     try {
         AtribuirPropriedadesDm04618();
+        GuardarCriterios();
         if (!base::Trim(FDm04618.FInformacoesCtbOrcadaInf.LListaIDs).empty())
             ExecutarConsultaDoModo();
     } catch (...) {

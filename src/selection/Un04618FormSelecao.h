@@ -17,6 +17,8 @@ class TForm04618Selecao final : public host::TFormZTTandorPadraoResult {
 
     // True from the moment the dialog is shown until an OK has passed validation.
     bool Cancelou() const { return FCancelou; }
+    // What the last commit asked for, as the dialog called it then; the first is the title.
+    const std::vector<host::TCriterio>& Criterios() const { return FCriterios; }
     // Fills the dialog from outside, so that ActOKExecute can run without the user. AVisualizacao is an index from 0.
     void AtribuirDadosSelecao(std::int64_t AIDFilial, base::TDataHora ADataIni, base::TDataHora ADataFim,
                               std::int32_t AVisualizacao, std::int32_t ADetalhar, std::int32_t ACenario);
@@ -65,6 +67,11 @@ class TForm04618Selecao final : public host::TFormZTTandorPadraoResult {
     bool AtualizarTotalizacoes();           // the totals step; False when the user ends the commit there
     void BuscarInformacoesOrcamentaria();
 
+    // What was asked for (Un04618FormSelecaoCriterios.cpp)
+    void GuardarCriterios();
+    std::string LinhasMarcadas() const;
+    std::string OpcoesMarcadas() const;
+
     // Lookups (Un04618FormSelecaoLookups.cpp)
     void AtualizarInformacoesIDsFilialSelecionados();
     void LkpEmpresaAntesDeBuscar(host::TZTLookupEx::TBusca& ABusca) const;
@@ -72,6 +79,7 @@ class TForm04618Selecao final : public host::TFormZTTandorPadraoResult {
     TDM04618& FDm04618;
     std::int64_t FIDEmpresa; // the logged company
     bool FCancelou = false;
+    std::vector<host::TCriterio> FCriterios;
 
     host::TLabel LblPesquisaPerOrcConsulta{"LblPesquisaPerOrcConsulta"};
     host::TZTLookupEx LkpPesquisaPerOrcConsulta;

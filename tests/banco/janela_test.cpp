@@ -218,6 +218,25 @@ TEST_F(Janela, PeriodosDaoNomeAsColunasEAsDemaisSomem) {
     EXPECT_FALSE(Dados("CdsMostraCtbOrcMensal").Active());
 }
 
+TEST_F(Janela, CriteriosSaoDoResultadoEFaltamSemUm) {
+    const auto titulo = [this] {
+        const auto criterios = janela->Criterios();
+        return criterios.empty() ? std::string("-") : criterios.front().Valor;
+    };
+    Abrir();
+    EXPECT_EQ("-", titulo());
+    Consultar("01/01/2024", "31/01/2024", "2");
+    const std::string exato = "Orçado x realizado por conta: 2 - Pesquisando período exato";
+    EXPECT_EQ(exato, titulo());
+    Selecionar([](FormDriver& usuario) { usuario.define("CbDetalharSelecao", "3"); });
+    EXPECT_EQ(exato, titulo()) << "left without an OK";
+    Consultar("01/02/2024", "29/02/2024", "3");
+    EXPECT_EQ("Orçado x realizado por conta: 3 - Demonstrando períodos em colunas", titulo())
+        << "a result without rows";
+    Consultar("01/03/2024", "31/03/2024", "1");
+    EXPECT_EQ("-", titulo()) << "nothing was found";
+}
+
 TEST_F(Janela, PeriodosDeMesmoNomeDizemQueAnoOuQueDatasSao) {
     Projecao("5 1 - 0 01/01/2025 31/01/2025");
     Projecao("6 1 - 0 01/01/2025 31/03/2025");

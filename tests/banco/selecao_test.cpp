@@ -313,6 +313,90 @@ TEST_F(Selecao, HoldingSoConsolidaComRegistrosMarcados) {
     EXPECT_FALSE(Habilitado("LkpEmpresa")) << "company 2 heads no holding";
 }
 
+TEST_F(Selecao, CriteriosDizemOQueFoiPedidoNoCommit) {
+    const auto criterios = [&] {
+        Lista lista;
+        for (const auto& [nome, valor] : form->Criterios())
+            lista.push_back(nome + ": " + valor);
+        return lista;
+    };
+    EXPECT_EQ(Lista{}, criterios());
+    Periodo("01/01/2024", "30/06/2024", "1", "1");
+    const auto pesquisa = Lookup("LkpContas").Pesquisar();
+    const auto conta = pesquisa->FieldByName("CONTA").AsString();
+    const auto nome = pesquisa->FieldByName("NOME").AsString();
+    Definir("LkpContas", conta);
+    Definir("LkpEstabelecimento", "{2,1}");
+    Definir("ChkAgruparValFiliais", "1");
+    OK();
+    const Lista primeiro{"Consulta: Orçado x realizado por conta: 1 - Agrupando períodos intermediários",
+                         "Empresa: 1 - " + login->company().Nome,
+                         "Período: 01/01/2024 a 30/06/2024",
+                         "Cenário: 0 - Condições normais - Previsão normal",
+                         "Estabelecimentos: 1 - Cedro Dourado Indústria de Móveis S.A. - Matriz Curitiba; 2 - Cedro "
+                         "Dourado Indústria de Móveis S.A. - São José dos Pinhais",
+                         "Contas: " + conta + " - " + nome + ", com as contas abaixo dela",
+                         "Opções: Agrupar valores dos estabelecimentos"};
+    EXPECT_EQ(primeiro, criterios());
+    Definir("LkpContas", "0");
+    Definir("DeDataFim", "30/09/2024");
+    EXPECT_EQ(primeiro, criterios()) << "the dialog has moved on, the result has not";
+    Definir("DeDataFim", "29/09/2024");
+    OK();
+    EXPECT_EQ(primeiro, criterios()) << "refused";
+
+    Periodo("01/01/2024", "31/03/2024", "2", "3");
+    Definir("LkpRelatorioDemonstConfig", "1");
+    Definir("LkpTotalizadorDemonstConfig", "{1010,1020,1030,1040,1050,1060,1070}");
+    Definir("ChkDetalharTotalizadoresContas", "1");
+    Sair("ChkDetalharTotalizadoresContas");
+    Definir("LkpCentroCusto", "101");
+    Definir("ChkDetPercRealizadoXBase", "1");
+    Definir("ChkCalcularPercentualDiferenca", "1");
+    Definir("ChkLinhaVlrOrcado", "0");
+    Definir("ChkPerSemMov", "1");
+    Definir("CbCenario", "1");
+    OK();
+    EXPECT_EQ((Lista{"Consulta: Orçado x realizado - 1 - DEMONSTRAÇÃO DO RESULTADO DO EXERCÍCIO: 3 - Demonstrando "
+                     "períodos em colunas",
+                     "Empresa: 1 - Cedro Dourado Indústria de Móveis S.A.", "Período: 01/01/2024 a 31/03/2024",
+                     "Cenário: 1 - Condições favoráveis - Previsão otimista",
+                     "Relatório: 1 - DEMONSTRAÇÃO DO RESULTADO DO EXERCÍCIO", "Centros de custo: 101 - Marcenaria",
+                     "Totalizadores: 1010 - RECEITA OPERACIONAL BRUTA; 1020 - Venda de produtos; 1030 - Prestação de "
+                     "serviços; 1040 - DEDUÇÕES DA RECEITA; 1050 - Tributos sobre vendas e mais 2",
+                     "Linhas: Base, Realizado",
+                     "Opções: Agrupar valores dos estabelecimentos; Mostrar períodos sem movimento; Detalhar por "
+                     "totalizadores: Contas contábeis; Calcular (%) dos totalizadores: Valor realizado x base; "
+                     "Calcular percentual: Pelo valor da diferença"}),
+              criterios());
+    Definir("ChkDetalharTotalizadoresContas", "0"); // its filters stay until it is left
+    Definir("ChkDetPercAnaliseVertical", "1");
+    Definir("LkpTotalizadorDemonstConfig", "0");
+    OK();
+    EXPECT_EQ((Lista{"Consulta: Orçado x realizado - 1 - DEMONSTRAÇÃO DO RESULTADO DO EXERCÍCIO: 3 - Demonstrando "
+                     "períodos em colunas",
+                     "Empresa: 1 - Cedro Dourado Indústria de Móveis S.A.", "Período: 01/01/2024 a 31/03/2024",
+                     "Cenário: 1 - Condições favoráveis - Previsão otimista",
+                     "Relatório: 1 - DEMONSTRAÇÃO DO RESULTADO DO EXERCÍCIO", "Linhas: Base, Realizado",
+                     "Opções: Agrupar valores dos estabelecimentos; Mostrar períodos sem movimento; Calcular (%) dos "
+                     "totalizadores: Análise vertical (totalizadores)"}),
+              criterios())
+        << "what reaches no line is not said";
+}
+
+TEST_F(Selecao, CriteriosDeUmaHoldingNomeiamSuasEmpresas) {
+    Periodo("01/01/2024", "30/06/2024", "1", "3");
+    Definir("LkpEmpresa", "{3}");
+    OK();
+    const auto& criterios = form->Criterios();
+    ASSERT_EQ(6U, criterios.size());
+    EXPECT_EQ("Empresas da holding", criterios[4].Nome);
+    EXPECT_EQ("3 - Cedro Dourado Serviços e Logística Ltda. - Matriz Paranaguá; 3 - Cedro Dourado Serviços e Logística "
+              "Ltda. - Itajaí",
+              criterios[4].Valor);
+    EXPECT_EQ("Linhas: Base, Orçado, Realizado", criterios[5].Nome + ": " + criterios[5].Valor);
+}
+
 TEST_F(Selecao, CommitEscreveASelecaoInteira) {
     Periodo("01/01/2024", "30/06/2024", "2", "3");
     Definir("LkpRelatorioDemonstConfig", "1");
