@@ -133,7 +133,7 @@ inline constexpr const char* BalancoVariacao =
 // %0:s to %3:s whether base, budget, actual and their difference fit, %4:s the mark.
 inline constexpr const char* BalancoNome =
     "CASE WHEN %0:s AND %1:s AND %2:s AND %3:s AND ORCADO2.DELTAPERC >= -9223372036754 THEN ORCADO2.NOMECONTA ELSE "
-    "ORCADO2.NOMECONTA || '%4:s' END";
+    "COALESCE(ORCADO2.NOMECONTA, '') || '%4:s' END";
 
 // Projection columns of the three levels, plain and by the exact period.
 inline constexpr const char* BalancoTpBaseProj = R"(CASE CO01_CTBORCADAVLR.TPBASEPROJ

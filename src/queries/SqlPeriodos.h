@@ -320,6 +320,6 @@ inline constexpr const char* TextoQueCabe = R"(
 // %0:s the mark of a line that lacks something, %1:d length that the name has before it.
 inline constexpr const char* MarcaDaLinha = R"(
         IF (LALEM) THEN
-            NOMECONTA = IIF(CHAR_LENGTH(LNOMECONTA) > %1:d, SUBSTRING(LNOMECONTA FROM 1 FOR %1:d - 3) || '...', LNOMECONTA) || '%0:s';)";
+            NOMECONTA = IIF(CHAR_LENGTH(LNOMECONTA) > %1:d, SUBSTRING(LNOMECONTA FROM 1 FOR %1:d - 3) || '...', COALESCE(LNOMECONTA, '')) || '%0:s';)";
 
 } // namespace pct04618::sql

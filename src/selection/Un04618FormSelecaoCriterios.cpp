@@ -11,7 +11,7 @@ namespace {
 constexpr std::size_t MaximoPorExtenso = 5; // records that are named; the others are counted
 
 std::string Registro(const std::string& ACodigo, const std::string& ADescricao) {
-    return ADescricao.empty() ? ACodigo : ACodigo + " - " + ADescricao;
+    return ACodigo + (ACodigo.empty() || ADescricao.empty() ? "" : " - ") + ADescricao;
 }
 
 // The choice of a lookup by code and description; empty for none.

@@ -218,6 +218,63 @@ TEST_F(Janela, PeriodosDaoNomeAsColunasEAsDemaisSomem) {
     EXPECT_FALSE(Dados("CdsMostraCtbOrcMensal").Active());
 }
 
+TEST_F(Janela, NuloNoCadastroNaoImpedeResultadoNemTotais) {
+    for (const char* coluna :
+         {"SC00_FILIAL ALTER FILIAL", "CO01_PLANO ALTER CONTA", "CO01_PLANO ALTER CLASSIFCONTAB",
+          "CO01_PLANO ALTER NOME", "CO01_PLANO ALTER CTATITULO", "CO01_PLANOSUB ALTER CODIGO",
+          "CO01_PLANOSUB ALTER DESCRICAO", "CO01_CENTROCUSTO ALTER CODIGO", "CO01_CENTROCUSTO ALTER DESCRICAO",
+          "CO01_DEMAC ALTER TITULO", "CO01_DEMACTOT ALTER CODIGO", "CO01_DEMACTOT ALTER CLASSIF",
+          "CO01_DEMACTOT ALTER DESCRICAO", "CO01_DEMACTOT ALTER TITULO", "CO01_DEMACTOTREL ALTER IDDEMACTOT",
+          "CO01_CTBORCADAINF ALTER DATAFIM"})
+        copia.executar(std::string("ALTER TABLE ") + coluna + " DROP NOT NULL;");
+    copia.executar(R"(
+UPDATE SC00_FILIAL SET FILIAL = NULL WHERE IDFILIAL = 11;
+UPDATE CO01_PLANO SET CONTA = NULL, CLASSIFCONTAB = NULL, NOME = NULL, CTATITULO = NULL WHERE IDPLANO IN (101, 102);
+UPDATE CO01_PLANOSUB SET CODIGO = NULL, DESCRICAO = NULL WHERE IDPLANOSUB = 7;
+UPDATE CO01_CENTROCUSTO SET CODIGO = NULL, DESCRICAO = NULL;
+UPDATE CO01_DEMAC SET TITULO = NULL;
+INSERT INTO CO01_DEMACTOT (IDDEMACTOT, IDDEMAC) VALUES (10, 1);
+INSERT INTO CO01_DEMACTOTREL (IDDEMACTOT, IDPLANO) VALUES (9, 102);
+INSERT INTO CO01_DEMACTOTREL (IDDEMACTOT, IDDEMACTOTRELAC) VALUES (9, 10);
+INSERT INTO CO01_DEMACTOTREL (IDDEMACTOTRELAC) VALUES (9);
+INSERT INTO CO01_CTBORCADAVLR (IDCTBORCADAINF, IDPLANO, IDPLANOSUB, IDCENTROCUSTO) VALUES (1, 102, 7, 5);
+INSERT INTO CO01_CTBORCADAINF (IDCTBORCADAINF, IDEMPRESA, TPCENARIO, DATAINICIO) VALUES (9, 1, 0, '2024-04-01');
+INSERT INTO CO01_CTBORCADAVLR (IDCTBORCADAINF, IDPLANO, VLRORCADO) VALUES (9, 101, 92233720368547758.07);
+)");
+    const auto olhar = [this] { // every cell as a face looks at it
+        const auto& grade = *janela->GradeEmVista();
+        for (std::size_t i = 0; i < grade.DataSet()->RecordCount(); ++i)
+            for (const auto& coluna : grade.Colunas())
+                grade.Aparencia(grade.Celula(i, coluna));
+    };
+    for (const char* modo : {"1", "2"}) {
+        Consultar("01/01/2024", "30/06/2024", modo);
+        ASSERT_EQ(Balanco, EmVista());
+        olhar();
+    }
+    EXPECT_EQ((Lista{" [valor além do limite]||-90.000000", "|47.000000|52.000000", "Resultado|-60.000000|-45.000000"}),
+              apoio::LinhasDe(Dados("CdsMostraCtbOrcada"), {"NOMECONTA", "VLRORCADO", "VLRREALIZADO"}));
+    Consultar("01/01/2024", "31/12/2025", "3", "BOR");
+    ASSERT_EQ(PeriodosEmVista, EmVista());
+    olhar();
+    Selecionar([](FormDriver& usuario) {
+        Preencher(usuario, "01/01/2024", "30/04/2024", "3");
+        usuario.define("CbSelecionar", "2");
+        usuario.leave("CbSelecionar");
+        usuario.leave("CbDetalharSelecao");
+        usuario.define("LkpRelatorioDemonstConfig", "1");
+        usuario.leave("LkpRelatorioDemonstConfig");
+        usuario.define("ChkDetalharTotalizadoresContas", "1");
+        usuario.leave("ChkDetalharTotalizadoresContas");
+        usuario.click("actOK");
+    });
+    ASSERT_EQ(PeriodosEmVista, EmVista());
+    olhar();
+    EXPECT_EQ((Lista{"Total|B|2.00", "Total|O|47.00", "Total|R|52.00", "|B|2.00", "|O|47.00", "|R|52.00"}),
+              apoio::LinhasDe(Dados("CdsMostraCtbOrcMensal"), {"NOMECONTA", "DESCTIPOLINHA", "TOTAL"}));
+    EXPECT_EQ("1", janela->Criterios()[4].Valor) << "a statement without a title";
+}
+
 TEST_F(Janela, CriteriosSaoDoResultadoEFaltamSemUm) {
     const auto titulo = [this] {
         const auto criterios = janela->Criterios();
