@@ -15,7 +15,7 @@ constexpr int MaximoDoIn = 1500;              // of the engine
 constexpr std::int64_t MaximoDaFaixa = 30000; // signs of a literal
 constexpr std::int64_t MaximoDoVao = 500;     // what is further apart is a range of its own
 // Of a condition, of which a statement has up to ten: what the engine takes, with room left.
-constexpr int MaximoDeFaixas = 500;
+constexpr int MaximoDeFaixas = 300;
 constexpr std::size_t MaximoDoTexto = 800'000;
 
 // %0:s column, %1:d first and %2:d last number of a range, %3:s a sign for each number in it. The range is what an
@@ -58,7 +58,7 @@ std::string EstaNaLista(const std::string& AColuna, std::string_view ALista) {
                      base::Format(NaFaixa, {AColuna, LPrimeiro, LNumeros[I - 1], LSinais});
         if (++LFaixas > MaximoDeFaixas || LCondicao.size() > MaximoDoTexto)
             throw base::TFalha("A seleção tem " + std::to_string(LNumeros.size()) +
-                               " registros, mais do que cabe em uma consulta. Escolha um período menor ou menos "
+                               " registros, mais do que cabe em uma consulta. Escolha um período menor ou marque menos "
                                "registros.");
     }
     return "(" + LCondicao + ")";

@@ -2,6 +2,7 @@
 
 #include "base/Falhas.h"
 #include "base/Texto.h"
+#include "core/Lista.h"
 #include "core/Un04618Const.h"
 #include "host/DbManager.h"
 #include "host/Servicos.h"
@@ -17,7 +18,7 @@ namespace {
 using host::GZTUtilsDialogs;
 using host::TZTUtilsControls;
 
-[[noreturn]] void Recusar(const char* AMensagem, host::TControle& AControle) {
+[[noreturn]] void Recusar(const std::string& AMensagem, host::TControle& AControle) {
     GZTUtilsDialogs.Informacao(AMensagem);
     TZTUtilsControls::AtribuirFocoControle(AControle);
     throw base::Abort();
@@ -58,6 +59,19 @@ void TForm04618Selecao::ValidarCampos(host::TControle* ASender) {
     if (!ASender && LblDetalharLinhas.Enabled() && !ChkLinhaVlrBase.Checked() && !ChkLinhaVlrOrcado.Checked() &&
         !ChkLinhaVlrRealizado.Checked())
         Recusar("Marque uma das opções de detalhamento de linhas de valores.", ChkLinhaVlrBase);
+    if (!ASender)
+        ConferirMarcados();
+}
+
+// What no statement can take is said while nothing has changed yet.
+void TForm04618Selecao::ConferirMarcados() {
+    for (auto* LLookup : std::initializer_list<host::TZTLookupEx*>{&LkpEmpresa, &LkpTotalizadorDemonstConfig,
+                                                                   &LkpEstabelecimento, &LkpCentroCusto, &LkpContas})
+        try {
+            EstaEntreMarcados(BuscarIDsMultiselecao(*LLookup, "ID = ", LLookup->Definicao().CampoChave));
+        } catch (const base::TFalha& E) {
+            Recusar(E.what(), *LLookup);
+        }
 }
 
 void TForm04618Selecao::ValidarDataSeHePrimeiroEUltimoDiaMes(host::TZTDateEdit& AData,

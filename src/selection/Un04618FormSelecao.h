@@ -58,6 +58,7 @@ class TForm04618Selecao final : public host::TFormZTTandorPadraoResult {
 
     // Validation and commit (Un04618FormSelecao.cpp)
     void ValidarDataSeHePrimeiroEUltimoDiaMes(host::TZTDateEdit& AData, const host::TZTDateEdit* ADataInicial);
+    void ConferirMarcados();
     void AtribuirPropriedadesDm04618();
     void AtribuirUsuariosPorAtribuicao();
     void AtribuirHolding();

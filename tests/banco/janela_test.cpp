@@ -7,6 +7,7 @@
 #include "suite/script/FormDriver.h"
 
 #include <filesystem>
+#include <numeric>
 #include <unistd.h>
 
 using apoio::Dia;
@@ -273,6 +274,31 @@ INSERT INTO CO01_CTBORCADAVLR (IDCTBORCADAINF, IDPLANO, VLRORCADO) VALUES (9, 10
     EXPECT_EQ((Lista{"Total|B|2.00", "Total|O|47.00", "Total|R|52.00", "|B|2.00", "|O|47.00", "|R|52.00"}),
               apoio::LinhasDe(Dados("CdsMostraCtbOrcMensal"), {"NOMECONTA", "DESCTIPOLINHA", "TOTAL"}));
     EXPECT_EQ("1", janela->Criterios()[4].Valor) << "a statement without a title";
+}
+
+TEST_F(Janela, MarcadosDemaisSaoRecusadosSemPerderNada) {
+    copia.executar("SET TERM ^ ;\n"
+                   "EXECUTE BLOCK AS DECLARE I INTEGER = 1; BEGIN WHILE (I <= 1600) DO BEGIN\n"
+                   "    INSERT INTO CO01_PLANO (IDPLANO, IDEMPRESA, CONTA, CLASSIFCONTAB, NOME, CTATITULO, TPCONTA)\n"
+                   "    VALUES (:I * 1000, 1, :I + 10, '4', 'x', 2, 3);\n"
+                   "    I = I + 1;\n"
+                   "END END^\n"
+                   "SET TERM ; ^\n");
+    Consultar("01/01/2024", "31/01/2024", "1");
+    Selecionar([this](FormDriver& usuario) {
+        auto& contas = dynamic_cast<host::TZTLookupEx&>(janela->GetFormSelecao().Controle("LkpContas"));
+        const auto pesquisa = contas.Pesquisar();
+        std::vector<std::size_t> todas(pesquisa->RecordCount());
+        std::iota(todas.begin(), todas.end(), 1);
+        contas.Marcar(*pesquisa, todas);
+        usuario.click("actOK");
+        EXPECT_TRUE(janela->GetFormSelecao().Aberto());
+    });
+    EXPECT_EQ(Lista{"A seleção tem 1604 registros, mais do que cabe em uma consulta. Escolha um período menor ou "
+                    "marque menos registros."},
+              interacao.mensagens);
+    EXPECT_EQ("LkpContas", interacao.foco);
+    EXPECT_EQ(3U, janela->GradeEmVista()->DataSet()->RecordCount()) << "the earlier result stands";
 }
 
 TEST_F(Janela, CriteriosSaoDoResultadoEFaltamSemUm) {

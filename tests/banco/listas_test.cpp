@@ -152,8 +152,8 @@ TEST(ListaDeChaves, AteOLimiteEhUmInEAlemDelePoucasFaixas) {
         pct04618::EstaNaLista("T.ID", lista(1600, 501));
         FAIL() << "each key stands alone";
     } catch (const base::TFalha& falha) {
-        EXPECT_EQ("A seleção tem 1600 registros, mais do que cabe em uma consulta. Escolha um período menor ou menos "
-                  "registros.",
+        EXPECT_EQ("A seleção tem 1600 registros, mais do que cabe em uma consulta. Escolha um período menor ou "
+                  "marque menos registros.",
                   std::string(falha.what()));
     }
     const std::string curta = "T.ID = 1\rOR T.ID = 2";
