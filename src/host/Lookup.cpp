@@ -36,13 +36,6 @@ class TCursorDeLinhas : public TCursor {
     std::size_t FProxima = 0;
 };
 
-std::string TextoDaCelula(const TDataSet& ADataSet, const std::string& ACampo, std::size_t ALinha) {
-    const auto* LCampo = ADataSet.FindField(ACampo);
-    if (!LCampo)
-        throw base::TFalha("A pesquisa " + ADataSet.Nome() + " não traz o campo " + ACampo + ".");
-    return base::TextoDe(ADataSet.Colunas()[LCampo->Indice()].Valor(ALinha));
-}
-
 // Letters of ISO8859_1 without case and accents, as the database compares them; anything else as it is.
 std::string SemAcentos(std::string_view AUtf8) {
     constexpr std::string_view De0xC0 = "aaaaaaaceeeeiiiidnooooo*ouuuuyts"; // U+00C0 to U+00DF; twice, from U+00E0 on
@@ -57,15 +50,26 @@ std::string SemAcentos(std::string_view AUtf8) {
     return LTexto;
 }
 
-// The first row, in the order of the search, with that text in the field; the number of rows when there is none.
+// The first row, in the order of the search, with that code in the field; the number of rows when there is none.
 std::size_t Procurar(const TDataSet& ADataSet, const std::string& ACampo, const std::string& ATexto) {
+    const auto* LCampo = ADataSet.FindField(ACampo);
+    if (!LCampo)
+        throw base::TFalha("A pesquisa " + ADataSet.Nome() + " não traz o campo " + ACampo + ".");
+    const auto& LCodigos = ADataSet.Colunas()[LCampo->Indice()];
     std::size_t I = 0;
-    while (I < ADataSet.RecordCount() && TextoDaCelula(ADataSet, ACampo, ADataSet.LinhaDe(I)) != ATexto)
+    while (I < ADataSet.RecordCount() && !EhOCodigo(LCodigos.Valor(ADataSet.LinhaDe(I)), ATexto))
         ++I;
     return I;
 }
 
 } // namespace
+
+bool EhOCodigo(const base::TValor& ACodigo, std::string_view ATexto) {
+    if (std::holds_alternative<base::TDecimal>(ACodigo))
+        while (ATexto.size() > 1 && ATexto.front() == '0')
+            ATexto.remove_prefix(1);
+    return !base::EhNulo(ACodigo) && base::TextoDe(ACodigo) == ATexto;
+}
 
 void TDataSetEscolhido::Carregar(const TDataSet& AOrigem, std::vector<std::size_t> ALinhas) {
     Close();
@@ -127,10 +131,20 @@ void TZTLookupEx::Clear() {
     MostrarTexto("", FDefinicao.PermiteZero ? FDefinicao.TextoZero : "");
 }
 
-void TZTLookupEx::Achar(const TDataSet& APesquisa, std::size_t ALinha) {
+std::int64_t TZTLookupEx::ChaveDe(TDataSet& APesquisa, std::size_t ARecNo) const {
+    APesquisa.IrPara(ARecNo);
+    const auto LChave = APesquisa.FieldByName(FDefinicao.CampoChave).AsInt64();
+    if (!LChave)
+        throw base::TFalha("O registro escolhido não tem o campo " + FDefinicao.CampoChave +
+                           ", que o identifica. Corrija o cadastro.");
+    return *LChave;
+}
+
+void TZTLookupEx::Achar(TDataSet& APesquisa, std::size_t ARecNo) {
+    const auto LID = ChaveDe(APesquisa, ARecNo);
     FMarcados.Close();
-    FAchado.Carregar(APesquisa, {ALinha});
-    FID = FAchado.GetInt64FieldValue(FDefinicao.CampoChave);
+    FAchado.Carregar(APesquisa, {APesquisa.LinhaDe(ARecNo - 1)});
+    FID = LID;
     MostrarTexto(FAchado.FieldByName(FDefinicao.CampoPesquisa).AsString(),
                  FAchado.FieldByName(FDefinicao.CampoDescricao).AsString());
 }
@@ -142,18 +156,18 @@ void TZTLookupEx::SetID(std::int64_t AID) {
     const auto LPesquisa = Pesquisar();
     const auto LPosicao = Procurar(*LPesquisa, FDefinicao.CampoChave, std::to_string(AID));
     if (LPosicao < LPesquisa->RecordCount())
-        Achar(*LPesquisa, LPesquisa->LinhaDe(LPosicao));
+        Achar(*LPesquisa, LPosicao + 1);
 }
 
 void TZTLookupEx::Digitar(const std::string& ACodigo) {
     const auto LCodigo = base::Trim(ACodigo);
     Clear();
-    if (LCodigo.empty() || (LCodigo == "0" && FDefinicao.PermiteZero))
+    if (LCodigo.empty() || (FDefinicao.PermiteZero && LCodigo.find_first_not_of('0') == std::string::npos))
         return;
     const auto LPesquisa = Pesquisar();
     const auto LPosicao = Procurar(*LPesquisa, FDefinicao.CampoPesquisa, LCodigo);
     if (LPosicao < LPesquisa->RecordCount()) {
-        Achar(*LPesquisa, LPesquisa->LinhaDe(LPosicao));
+        Achar(*LPesquisa, LPosicao + 1);
         if (BuscaAchou)
             BuscaAchou();
         return;
@@ -167,8 +181,7 @@ void TZTLookupEx::Digitar(const std::string& ACodigo) {
 }
 
 void TZTLookupEx::Escolher(TDataSet& APesquisa, std::size_t ARecNo) {
-    APesquisa.IrPara(ARecNo);
-    Achar(APesquisa, APesquisa.LinhaDe(ARecNo - 1));
+    Achar(APesquisa, ARecNo);
     if (BuscaAchou)
         BuscaAchou();
 }
@@ -177,8 +190,10 @@ void TZTLookupEx::Marcar(TDataSet& APesquisa, const std::vector<std::size_t>& AR
     if (!FDefinicao.MultiSelecao)
         throw std::logic_error(Nome() + " takes one record");
     std::vector<std::size_t> LLinhas;
-    for (const auto LRecNo : ARecNos)
+    for (const auto LRecNo : ARecNos) {
+        static_cast<void>(ChaveDe(APesquisa, LRecNo));
         LLinhas.push_back(APesquisa.LinhaDe(LRecNo - 1));
+    }
     Clear();
     FMarcados.Carregar(APesquisa, std::move(LLinhas));
     const bool LTodos = !TextoTodosMarcados.empty() && FMarcados.RecordCount() == APesquisa.RecordCount();

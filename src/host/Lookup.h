@@ -48,8 +48,11 @@ struct HOST_API TDefinicaoLookup {
     std::int64_t ValorInvalido = 0;                                  // what GetID gives after an unknown code
 };
 
+// Whether a typed text is that code; where the code is a number, its leading zeros do not count. NULL is no code.
+HOST_API bool EhOCodigo(const base::TValor& ACodigo, std::string_view ATexto);
+
 // One search field: a code with its description, the record found, and the records marked in its search where several
-// may be chosen. Reads pass their failures on.
+// may be chosen. Reads pass their failures on; a record without a key is one, and changes nothing.
 class HOST_API TZTLookupEx : public TControle {
   public:
     static constexpr const char* TextoVarios = "Vários registros selecionados.";
@@ -95,7 +98,8 @@ class HOST_API TZTLookupEx : public TControle {
     void Marcar(TDataSet& APesquisa, const std::vector<std::size_t>& ARecNos);
 
   private:
-    void Achar(const TDataSet& APesquisa, std::size_t ALinha);
+    std::int64_t ChaveDe(TDataSet& APesquisa, std::size_t ARecNo) const; // throws TFalha for a record without one
+    void Achar(TDataSet& APesquisa, std::size_t ARecNo);
     void MostrarTexto(std::string ACodigo, std::string ATexto);
 
     TDefinicaoLookup FDefinicao;

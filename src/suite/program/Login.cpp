@@ -21,14 +21,13 @@ bool ownsRows(const char* table, std::int64_t company) {
                 ->IsEmpty();
 }
 
-// The key of the row with that code, or with the lowest one.
+// The key of the row with that code, or with the lowest one; a row without a code is nobody's choice.
 std::int64_t find(const std::string& table, const std::string& key, const std::string& code, const std::string& where,
                   std::optional<std::int64_t> wanted, const char* what) {
-    std::string conditions = where;
-    if (wanted)
-        conditions += (where.empty() ? " WHERE " : " AND ") + table + "." + code + " = " + std::to_string(*wanted);
+    const auto column = table + "." + code;
     const auto rows =
-        query("SELECT FIRST 1 " + table + "." + key + " FROM " + table + conditions + " ORDER BY " + table + "." + code,
+        query("SELECT FIRST 1 " + table + "." + key + " FROM " + table + (where.empty() ? " WHERE " : where + " AND ") +
+                  column + (wanted ? " = " + std::to_string(*wanted) : " IS NOT NULL") + " ORDER BY " + column,
               what);
     if (!rows->IsEmpty())
         return rows->GetInt64FieldValue(key);
