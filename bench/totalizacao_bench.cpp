@@ -80,6 +80,7 @@ class Stopwatch final : public host::TInteracao {
     }
     bool ProgressoCancelado() override { return false; }
     void MostrarModal(host::TFormZTTandorPadraoResult&) override {}
+    bool Falha(const base::TFalha&) override { return false; }
     void Focar(host::TControle&) override {}
     void Pesquisar(host::TZTLookupEx&) override {}
     void ProcessarMensagens() override {}

@@ -53,6 +53,7 @@ class TForm04618 final : public host::TFormZTTandorPadraoSelecao {
     host::TDataSource DsMostraCtbOrcada{"DsMostraCtbOrcada"};
     host::TDataSource DsMostraCtbOrcMensal{"DsMostraCtbOrcMensal"};
     std::unique_ptr<TForm04618Selecao> FFormSelecao;
+    std::vector<host::TAssinatura> FAssinaturas;
 
     host::TAction ActAtualizarRealizado;
     host::TPanel PnlTitulo{"PnlTitulo"};

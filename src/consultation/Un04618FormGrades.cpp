@@ -22,8 +22,8 @@ TAgrupamento Agrupamento(const host::TGrade& AGrade) {
 }
 
 // The grid tells every change of its columns; this one only that of the grouping.
-void AoMudarAgrupamento(host::TGrade& AGrade, std::function<void()> AOuvinte) {
-    AGrade.AoMudar([&AGrade, AOuvinte = std::move(AOuvinte), LAntes = Agrupamento(AGrade)]() mutable {
+host::TAssinatura AoMudarAgrupamento(host::TGrade& AGrade, std::function<void()> AOuvinte) {
+    return AGrade.AoMudar([&AGrade, AOuvinte = std::move(AOuvinte), LAntes = Agrupamento(AGrade)]() mutable {
         if (auto LAgora = Agrupamento(AGrade); LAgora != LAntes) {
             LAntes = std::move(LAgora);
             AOuvinte();
@@ -54,13 +54,14 @@ void TForm04618::ConfigurarGrades() {
     DbgCtbOrcada.SetColunas(ColunasDbtvCtbOrcada());
     DbgCtbOrcada.Linhas = LinhasDbtvCtbOrcada();
     DbgCtbOrcada.RegraDaCelula = [](const host::TCelula& C) { return AparenciaDaCelula(LerCelulaBalanco(C)); };
-    AoMudarAgrupamento(DbgCtbOrcada, [this] { DbtvCtbOrcadaDataControllerGroupingChanged(); });
+    FAssinaturas.push_back(AoMudarAgrupamento(DbgCtbOrcada, [this] { DbtvCtbOrcadaDataControllerGroupingChanged(); }));
     DbgMostraCtbOrcMensal.SetColunas(ColunasDbtvMostraCtbOrcMensal());
     DbgMostraCtbOrcMensal.Linhas = LinhasDbtvMostraCtbOrcMensal();
     DbgMostraCtbOrcMensal.RegraDaCelula = [this](const host::TCelula& C) {
         return AparenciaDaCelula(LerCelulaPeriodos(C, GetDm04618()));
     };
-    AoMudarAgrupamento(DbgMostraCtbOrcMensal, [this] { DbtvMostraCtbOrcMensalDataControllerGroupingChanged(); });
+    FAssinaturas.push_back(
+        AoMudarAgrupamento(DbgMostraCtbOrcMensal, [this] { DbtvMostraCtbOrcMensalDataControllerGroupingChanged(); }));
 
     for (auto* LLeiaute : {&GdlConsultarProj, &GdlMostraCtbOrcMensal})
         LLeiaute->IDUsuario = [] { return host::GUtilSistema().GetIDUsuarioLogado(); };
@@ -78,8 +79,9 @@ void TForm04618::ConfigurarGrades() {
 }
 
 void TForm04618::InicializarGrades() {
-    GetDm04618().CdsMostraCtbOrcada.AoMudarEstado([this] { DsMostraCtbOrcadaStateChange(); });
-    GetDm04618().CdsMostraCtbOrcMensal.AoMudarEstado([this] { DsMostraCtbOrcMensalStateChange(); });
+    FAssinaturas.push_back(GetDm04618().CdsMostraCtbOrcada.AoMudarEstado([this] { DsMostraCtbOrcadaStateChange(); }));
+    FAssinaturas.push_back(
+        GetDm04618().CdsMostraCtbOrcMensal.AoMudarEstado([this] { DsMostraCtbOrcMensalStateChange(); }));
     GdlConsultarProj.CarregarListaDeLeiautes();
     GdlConsultarProj.SetVisaoGradeLeiaute(DbgCtbOrcada);
     GdlMostraCtbOrcMensal.CarregarListaDeLeiautes();

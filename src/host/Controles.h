@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/DataHora.h"
+#include "host/Assinatura.h"
 #include "host/Exportar.h"
 
 #include <cstdint>
@@ -37,8 +38,7 @@ class HOST_API TControle {
     // A key in the control; true when the rule has consumed it.
     std::function<bool(TTecla)> OnKeyDown;
     bool PodeReceberFoco() const { return FEnabled && FVisible; }
-    // Listeners outlive the control or are never told again.
-    void AoMudar(std::function<void()> AOuvinte) { FOuvintes.push_back(std::move(AOuvinte)); }
+    TAssinatura AoMudar(std::function<void()> AOuvinte) { return FOuvintes.Assinar(std::move(AOuvinte)); }
 
   protected:
     template <class T>
@@ -46,8 +46,7 @@ class HOST_API TControle {
         if (ACampo == AValor)
             return false;
         ACampo = std::move(AValor);
-        for (const auto& LOuvinte : FOuvintes)
-            LOuvinte();
+        FOuvintes.Avisar();
         return true;
     }
 
@@ -56,7 +55,7 @@ class HOST_API TControle {
     std::string FCaption;
     bool FEnabled = true;
     bool FVisible = true;
-    std::vector<std::function<void()>> FOuvintes;
+    TOuvintes FOuvintes;
 };
 
 // A button's or a menu entry's operation.
@@ -106,15 +105,17 @@ class HOST_API TZTCheckBox : public TControle {
     bool FChecked = false;
 };
 
-// Items with a parallel list of values. Rules compare the value, never the item.
+// Items with a parallel list of values. Rules compare the value, never the item: OnChange runs when the value changes,
+// once for each of the operations below.
 class HOST_API TZTComboBox : public TControle {
   public:
     using TControle::TControle;
-    // Replaces both lists; the first item is then the selected one.
-    void SetItens(std::vector<std::string> AItens, std::vector<std::string> AValores);
-    const std::vector<std::string>& Itens() const { return FItens; }
-    const std::vector<std::string>& Valores() const { return FValores; }
-    int ItemIndex() const { return FItemIndex; } // -1 for none
+    // Replaces both lists and what is selected. Without a value that is the first item.
+    void SetItens(std::vector<std::string> AItens, std::vector<std::string> AValores,
+                  const std::optional<std::string>& AValor = std::nullopt);
+    const std::vector<std::string>& Itens() const { return FLista.Itens; }
+    const std::vector<std::string>& Valores() const { return FLista.Valores; }
+    int ItemIndex() const { return FLista.Indice; } // -1 for none
     void SetItemIndex(int AIndice);
     // Empty where nothing is selected or the list of values does not reach.
     std::string GetValorSelecionado() const;
@@ -123,9 +124,17 @@ class HOST_API TZTComboBox : public TControle {
     std::function<void()> OnChange;
 
   private:
-    std::vector<std::string> FItens;
-    std::vector<std::string> FValores;
-    int FItemIndex = -1;
+    struct TLista {
+        std::vector<std::string> Itens;
+        std::vector<std::string> Valores;
+        int Indice = -1;
+        void Selecionar(int AIndice);
+        void Selecionar(const std::string& AValor);
+        bool operator==(const TLista&) const = default;
+    };
+    void SetLista(TLista ALista);
+
+    TLista FLista;
 };
 
 // A date under a mask. The text is what was typed; the date is blank while the text is no date.

@@ -73,8 +73,7 @@ void TDataSet::AtribuirEmEdicao(std::size_t, const base::TValor&) {
 
 void TDataSet::MudarEstado(TEstadoDataSet AEstado) {
     FEstado = AEstado;
-    for (const auto& LOuvinte : FOuvintes)
-        LOuvinte();
+    FOuvintes.Avisar();
 }
 
 void TDataSet::Open() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/Assinatura.h"
 #include "host/Conexao.h"
 #include "host/Exportar.h"
 
@@ -88,8 +89,8 @@ class HOST_API TDataSet {
     std::size_t LinhaDe(std::size_t APosicao) const { return FOrdem[APosicao]; }
 
     std::function<void(TDataSet&)> AfterOpen;
-    // Told after each change of state: opened, closed, editing, back to browsing. Listeners outlive the dataset.
-    void AoMudarEstado(std::function<void()> AOuvinte) { FOuvintes.push_back(std::move(AOuvinte)); }
+    // Told after each change of state: opened, closed, editing, back to browsing.
+    TAssinatura AoMudarEstado(std::function<void()> AOuvinte) { return FOuvintes.Assinar(std::move(AOuvinte)); }
 
   protected:
     friend class TField;
@@ -113,7 +114,7 @@ class HOST_API TDataSet {
     std::size_t FPosicao = 0;
     bool FEof = true;
     bool FBof = true;
-    std::vector<std::function<void()>> FOuvintes;
+    TOuvintes FOuvintes;
 };
 
 // A plain query on a connection.

@@ -18,15 +18,15 @@ void Avisar(TEventoProgresso AEvento) { Servicos().Interacao->Progresso(AEvento)
 } // namespace
 
 void TZTUtilsDialogs::Informacao(const std::string& ATexto) const {
-    Servicos().Interacao->Mensagem({TNivelMensagem::Informacao, "Informação:", ATexto, {"OK"}, 6});
+    Servicos().Interacao->Mensagem({TNivelMensagem::Informacao, "Informação:", ATexto, {"OK"}});
 }
 
 void TZTUtilsDialogs::Erro(const std::string& ATexto, const std::optional<base::TFalhaBanco>& ACausa) const {
-    Servicos().Interacao->Mensagem({TNivelMensagem::Erro, "Erro:", ATexto, {"OK"}, 6, ACausa});
+    Servicos().Interacao->Mensagem({TNivelMensagem::Erro, "Erro:", ATexto, {"OK"}, TResposta::Primeira, ACausa});
 }
 
 int TZTUtilsDialogs::Confirmacao(const std::string& ATexto, int ATipoBotao, const std::string& ATitulo) const {
-    return Servicos().Interacao->Mensagem({TNivelMensagem::Confirmacao, ATitulo, ATexto, BotoesDoTipo(ATipoBotao), 6});
+    return Servicos().Interacao->Mensagem({TNivelMensagem::Confirmacao, ATitulo, ATexto, BotoesDoTipo(ATipoBotao)});
 }
 
 int TZTUtilsDialogs::ConfirmacaoCustomizada(const std::string& ATexto, TNivelMensagem ANivel, int APadrao,

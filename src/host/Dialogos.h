@@ -5,7 +5,7 @@
 
 namespace host {
 
-// The suite's messages and questions.
+// The suite's messages and questions. Answers are those of TResposta.
 class HOST_API TZTUtilsDialogs {
   public:
     void Informacao(const std::string& ATexto) const;
@@ -13,7 +13,7 @@ class HOST_API TZTUtilsDialogs {
     void Erro(const std::string& ATexto, const std::optional<base::TFalhaBanco>& ACausa = {}) const;
     // A question with the buttons of that type.
     int Confirmacao(const std::string& ATexto, int ATipoBotao, const std::string& ATitulo) const;
-    // Buttons by their captions. Returns 6, 7 or 2 for the first, second or third.
+    // Buttons by their captions.
     int ConfirmacaoCustomizada(const std::string& ATexto, TNivelMensagem ANivel, int APadrao,
                                const std::string& ATitulo, std::vector<std::string> ABotoes) const;
 };

@@ -3,6 +3,8 @@
 #include "base/Falhas.h"
 #include "host/Servicos.h"
 
+#include <utility>
+
 namespace host {
 
 namespace {
@@ -42,30 +44,32 @@ TDataSet& TForm::DataSet(std::string_view ANome) const {
     NaoExiste(FNome, ANome, FFontes, [](const TDataSource& F) { return F.DataSet ? F.DataSet->Nome() : F.Nome(); });
 }
 
-bool TForm::SairDe(TControle& AControle) {
+bool TForm::Realizar(const std::function<void()>& AAto) {
     try {
-        ValidarCampos(&AControle);
-        if (AControle.OnExit)
-            AControle.OnExit();
+        AAto();
         return true;
     } catch (const base::Abort&) { // the rule has told the user
         return false;
     }
 }
 
+bool TForm::SairDe(TControle& AControle) {
+    return Realizar([&] {
+        ValidarCampos(&AControle);
+        if (AControle.OnExit)
+            AControle.OnExit();
+    });
+}
+
 void TForm::Executar(TAction& AAcao) {
-    try {
-        AAcao.Execute();
-    } catch (const base::Abort&) { // the rule has told the user
-    }
+    Realizar([&] { AAcao.Execute(); });
 }
 
 bool TForm::Teclar(TControle& AControle, TTecla ATecla) {
-    try {
-        return (AControle.OnKeyDown && AControle.OnKeyDown(ATecla)) || FormKeyDown(ATecla);
-    } catch (const base::Abort&) { // the rule has told the user
-        return true;
-    }
+    bool LConsumida = false;
+    const bool LInteira =
+        Realizar([&] { LConsumida = (AControle.OnKeyDown && AControle.OnKeyDown(ATecla)) || FormKeyDown(ATecla); });
+    return LConsumida || !LInteira;
 }
 
 void TDmZTTandorPadrao::Conectar(std::initializer_list<TZTSQLDataSet*> ADataSets) {
@@ -87,11 +91,33 @@ TFormZTTandorPadraoResult::TFormZTTandorPadraoResult(std::string ANome, std::str
 }
 
 int TFormZTTandorPadraoResult::ShowModal() {
-    FAberto = true;
+    const struct TExibicao {
+        bool& Modal;
+        ~TExibicao() { Modal = false; }
+    } LExibicao{FModal};
+    FModal = FAberto = true;
     FModalResult = 0;
+    FFalha = nullptr;
     FormShow();
     Servicos().Interacao->MostrarModal(*this);
+    if (FFalha)
+        std::rethrow_exception(std::exchange(FFalha, nullptr));
     return FModalResult;
+}
+
+bool TFormZTTandorPadraoResult::Realizar(const std::function<void()>& AAto) {
+    try {
+        return TForm::Realizar(AAto);
+    } catch (const std::exception& LErro) {
+        const auto* LFalha = dynamic_cast<const base::TFalha*>(&LErro);
+        if (!FModal)
+            throw;
+        if (!FAberto)
+            FFalha = std::current_exception();
+        else if (!LFalha || !Servicos().Interacao->Falha(*LFalha)) // a fault of the program is for whoever runs it
+            throw;
+        return false;
+    }
 }
 
 bool TFormZTTandorPadraoResult::FormKeyDown(TTecla ATecla) {

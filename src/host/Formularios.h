@@ -4,6 +4,8 @@
 #include "host/DataSet.h"
 #include "host/Exportar.h"
 
+#include <exception>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -44,8 +46,10 @@ class HOST_API TForm {
     TAction& Acao(std::string_view ANome) const;
     TDataSet& DataSet(std::string_view ANome) const; // by the dataset's own name, through the data sources
 
-    // What the user does. An Abort of a rule ends here, its message having been shown; other failures pass.
-    // Leaving validates the control and then runs its exit event; false when a rule has refused it.
+    // What the user does, all of it through here. An Abort of a rule ends here, its message having been shown; other
+    // failures pass, but for those in a modal form (TInteracao::MostrarModal). False when it did not come to its end.
+    virtual bool Realizar(const std::function<void()>& AAto);
+    // Leaving validates the control and then runs its exit event; false when a rule has refused it or failed.
     bool SairDe(TControle& AControle);
     void Executar(TAction& AAcao);
     // A key in a control: the control's rule first, then, unless that consumed it, the form's. True when one of them
@@ -127,8 +131,9 @@ class HOST_API TFormZTTandorPadraoResult : public TForm {
     static constexpr int ResultadoSair = 2;
 
     TFormZTTandorPadraoResult(std::string ANome, std::string ATitulo);
-    // Returns the ModalResult with which the dialog was closed.
+    // Returns the ModalResult with which the dialog was closed; throws the failure behind which its rules closed it.
     int ShowModal();
+    bool Realizar(const std::function<void()>& AAto) override;
     bool Aberto() const { return FAberto; }
     int ModalResult() const { return FModalResult; } // 0 while it is open
 
@@ -144,8 +149,10 @@ class HOST_API TFormZTTandorPadraoResult : public TForm {
     TAction ActSair;
 
   private:
+    bool FModal = false; // within ShowModal
     bool FAberto = false;
     int FModalResult = 0;
+    std::exception_ptr FFalha; // behind which the form was closed
 };
 
 // Base of a calculation dialog: it stays open behind an action, which first validates all fields.

@@ -3,6 +3,7 @@
 #include "base/Falhas.h"
 #include "host/Exportar.h"
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -13,6 +14,14 @@ class TControle;
 class TFormZTTandorPadraoResult;
 class TZTLookupEx;
 
+// The result codes of a message's buttons. A message with one button gives the first; giving up is the third.
+struct TResposta {
+    static constexpr int Primeira = 6;
+    static constexpr int Segunda = 7;
+    static constexpr int Terceira = 2;
+    static constexpr std::array<int, 3> Todas{Primeira, Segunda, Terceira};
+};
+
 enum class TNivelMensagem { Informacao, Erro, Confirmacao };
 
 // A message or a question. A message has one button and its answer is not read.
@@ -21,7 +30,7 @@ struct HOST_API TMensagem {
     std::string Titulo;
     std::string Texto; // line breaks are carriage returns
     std::vector<std::string> Botoes;
-    int Padrao = 6;                              // result code of the default button
+    int Padrao = TResposta::Primeira;            // the default button
     std::optional<base::TFalhaBanco> Causa = {}; // of the database, where the message tells of its failure
 };
 
@@ -38,13 +47,17 @@ struct HOST_API TEventoProgresso {
 class HOST_API TInteracao {
   public:
     virtual ~TInteracao() = default;
-    // Returns when the user has closed it: 6, 7 or 2 for the first, second or third button.
+    // Returns when the user has closed it, with his answer by its TResposta.
     virtual int Mensagem(const TMensagem& AMensagem) = 0;
     virtual void Progresso(const TEventoProgresso& AEvento) = 0;
     // True once the user has cancelled the progress dialog in view.
     virtual bool ProgressoCancelado() = 0;
-    // Shows a dialog and returns when it has closed.
+    // Shows a dialog and returns when it has closed. What the user does in it runs through TForm::Realizar, which keeps
+    // its failures: while the dialog is open one is told in it (Falha) and it stays open; one behind which the rules
+    // have closed the dialog is thrown by ShowModal, so that nothing behind the dialog runs.
     virtual void MostrarModal(TFormZTTandorPadraoResult& AForm) = 0;
+    // Shows a failure in the dialog in front, in which the user then goes on; false where there is nobody to go on.
+    virtual bool Falha(const base::TFalha& AFalha) = 0;
     virtual void Focar(TControle& AControle) = 0;
     // Opens the search of a lookup; the user picks, marks or leaves it.
     virtual void Pesquisar(TZTLookupEx& ALookup) = 0;

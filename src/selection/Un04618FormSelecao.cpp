@@ -132,8 +132,8 @@ bool TForm04618Selecao::JaExistemProjecoesGeradas() const {
 }
 
 bool TForm04618Selecao::AtualizarTotalizacoes() {
-    constexpr int Consultar = 6;
-    constexpr int Reatualizar = 7;
+    constexpr int Consultar = host::TResposta::Primeira;
+    constexpr int Reatualizar = host::TResposta::Segunda;
     const int LResposta =
         JaExistemProjecoesGeradas()
             ? GZTUtilsDialogs.ConfirmacaoCustomizada(

@@ -82,6 +82,8 @@ class TForm04618Selecao final : public host::TFormZTTandorPadraoResult {
     bool FCancelou = false;
     std::vector<host::TCriterio> FCriterios;
 
+    host::TAction ActCancelar{"ActCancelar", [] {}}; // nothing behind it: the dialog is left by ActSair
+    host::TAction BtnCancelar{"BtnCancelar", [this] { ActCancelar.Execute(); }};
     host::TLabel LblPesquisaPerOrcConsulta{"LblPesquisaPerOrcConsulta"};
     host::TZTLookupEx LkpPesquisaPerOrcConsulta;
     host::TLabel LblEmpresa{"LblEmpresa"};

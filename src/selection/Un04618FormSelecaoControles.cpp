@@ -33,7 +33,9 @@ TForm04618Selecao::TForm04618Selecao(TDM04618& ADm04618)
     // The lists of the modes arise before the first showing, so that OK at once finds a mode.
     AtualizarItensEValuesDetalhamentosTiposDeRelatorios();
     // The order of the form, which is the order of its tabs but for the search of periods, which comes last.
-    Registrar({&LblEmpresa,
+    Registrar({&ActCancelar,
+               &BtnCancelar,
+               &LblEmpresa,
                &LkpEmpresa,
                &LblDataInicial,
                &DeDataIni,
@@ -93,6 +95,8 @@ TForm04618Selecao::TForm04618Selecao(TDM04618& ADm04618)
 void TForm04618Selecao::ConfigurarControles() {
     Legendar({{&ActOK, "&Selecionar"},
               {&ActSair, "&Sair [Esc]"},
+              {&ActCancelar, "Cancelar"},
+              {&BtnCancelar, "Cancelar"},
               {&LblPesquisaPerOrcConsulta, "Pesquisa (F11):"},
               {&LblEmpresa, "Empresa:"},
               {&LblDataInicial, "Data inicial:"},

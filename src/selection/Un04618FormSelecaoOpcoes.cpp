@@ -31,19 +31,18 @@ bool TForm04618Selecao::DetalhadoPorEstabelecimento() const {
 }
 
 void TForm04618Selecao::AtualizarItensEValuesDetalhamentosTiposDeRelatorios() {
-    CbDetalharSelecao.SetItens({"1 - Agrupando períodos intermediários", "2 - Pesquisando período exato",
-                                "3 - Demonstrando períodos em colunas"},
-                               {"1", "2", "3"});
+    if (Visualizacao() == 2) {
+        CbDetalharSelecao.SetItens({"3 - Demonstrando períodos em colunas",
+                                    "4 - Demonstrando de forma matricial com períodos em colunas",
+                                    "5 - Razão dos totalizadores"},
+                                   {"3", "4", "5"}, "3");
+        return;
+    }
     const bool LMesmoMes =
         host::GUtilGeral.EspacoEntreDatas(DeDataIni.Date(), DeDataFim.Date(), "MESES", "PARCIAL") == 0;
-    CbDetalharSelecao.SetValorSelecionado(LMesmoMes ? "2" : "1");
-    if (Visualizacao() != 2)
-        return;
-    CbDetalharSelecao.SetItens({"3 - Demonstrando períodos em colunas",
-                                "4 - Demonstrando de forma matricial com períodos em colunas",
-                                "5 - Razão dos totalizadores"},
-                               {"3", "4", "5"});
-    CbDetalharSelecao.SetValorSelecionado("3");
+    CbDetalharSelecao.SetItens({"1 - Agrupando períodos intermediários", "2 - Pesquisando período exato",
+                                "3 - Demonstrando períodos em colunas"},
+                               {"1", "2", "3"}, LMesmoMes ? "2" : "1");
 }
 
 void TForm04618Selecao::CbDetalharSelecaoExit() {
@@ -201,7 +200,7 @@ void TForm04618Selecao::LigarTeclas() {
             ActOK.Execute();
         return false;
     };
-    LkpSubConta.OnKeyDown = [this, LEnter](host::TTecla ATecla) {
+    LkpContas.OnKeyDown = LkpSubConta.OnKeyDown = [this, LEnter](host::TTecla ATecla) {
         LkpContas.TextoTodosMarcados = LkpSubConta.TextoTodosMarcados = "Todos os registros selecionados.";
         if (LEnter(ATecla) && Modo() == ModoRazaoTotalizadores && !PnlDetalharValLancto.Enabled())
             ActOK.Execute();

@@ -11,9 +11,9 @@ namespace {
 
 using base::Format;
 
-constexpr int SomenteOSelecionado = 6;
-constexpr int Todos = 7;
-constexpr int Cancelar = 2;
+constexpr int SomenteOSelecionado = host::TResposta::Primeira;
+constexpr int Todos = host::TResposta::Segunda;
+constexpr int Cancelar = host::TResposta::Terceira;
 
 std::unique_ptr<host::TDataSet> Consultar(const char* ATexto, const char* ANome) {
     return host::BuscarInstanciaZTUtilsDbManager().AbrirConsultaSQL(ATexto, ANome);

@@ -17,6 +17,7 @@ class Interacao : public host::TInteracao {
   public:
     std::vector<std::string> mensagens;
     std::optional<base::TFalhaBanco> causa; // of the last message
+    std::vector<std::string> falhas;        // in an open dialog
     std::vector<host::TEventoProgresso> progresso;
     bool cancelado = false;
     std::function<void(host::TFormZTTandorPadraoResult&)> aoMostrar;
@@ -29,6 +30,10 @@ class Interacao : public host::TInteracao {
     void Progresso(const host::TEventoProgresso& evento) override { progresso.push_back(evento); }
     bool ProgressoCancelado() override { return cancelado; }
     void MostrarModal(host::TFormZTTandorPadraoResult& form) override { aoMostrar(form); }
+    bool Falha(const base::TFalha& falha) override {
+        falhas.emplace_back(falha.what());
+        return true;
+    }
     void Focar(host::TControle& controle) override { foco = controle.Nome(); }
     void Pesquisar(host::TZTLookupEx& lookup) override {
         if (aoPesquisar)

@@ -400,6 +400,14 @@ TEST_F(Janela, ConsultaQueFalhaNaoDeixaOTituloDaAnterior) {
     EXPECT_FALSE(Dados("CdsMostraCtbOrcMensal").Active());
 }
 
+TEST_F(Janela, CommitQueFalhaNaoImprime) {
+    copia.executar("DROP INDEX IX_ORCVLR_LINHA; ALTER TABLE CO01_CTBORCADAVLR DROP IDDEMACTOT;");
+    EXPECT_THROW(Consultar("01/01/2024", "31/01/2024", "4", "OR"), base::TFalhaBanco);
+    EXPECT_FALSE(janela->GetFormSelecao().Cancelou());
+    EXPECT_EQ(Lista{}, interacao.mensagens);
+    EXPECT_EQ(NadaEmVista, EmVista());
+}
+
 TEST_F(Janela, GruposAbremComResultadoNovoEComOutroAgrupamento) {
     Abrir();
     int vezes = 0;

@@ -40,7 +40,9 @@ class SelecaoNaTela {
         form = std::make_unique<pct04618::TForm04618Selecao>(*dm);
         janela = std::make_unique<suite::desktop::DialogWindow>(*form, principal.get());
         principal->show();
-        janela->binding().onFailure = [this](const std::exception& falha) { falhas.emplace_back(falha.what()); };
+        janela->binding().onFailure = [this](const std::exception& falha) {
+            interacao.falhas.emplace_back(falha.what());
+        };
         interacao.janela = janela.get();
     }
 
@@ -116,7 +118,6 @@ class SelecaoNaTela {
 
     apoio::Copia copia{apoio::Base::Demo};
     Interacao interacao;
-    std::vector<std::string> falhas;
     std::unique_ptr<suite::firebird::Connection> conexao = copia.conectar();
     host::TServicos servicos;
     std::unique_ptr<suite::program::Login> login;

@@ -259,7 +259,7 @@ TEST_F(NaTela, EnquantoUmaOperacaoCorreNadaMaisComeca) {
 
 TEST(SelecaoNaTela, TodosOsControlesTemLugarNomeEVez) {
     SelecaoNaTela tela;
-    EXPECT_EQ(Lista{}, tela.janela->binding().unbound());
+    EXPECT_EQ((Lista{"ActCancelar", "BtnCancelar"}), tela.janela->binding().unbound()) << "nothing is behind them";
     const auto caminho = [&](const char* visualizar, const char* modo) {
         Lista vistos;
         tela.mostrar({[&] {
@@ -353,7 +353,7 @@ TEST(SelecaoNaTela, SoComOTeclado) {
             enter();
         },
     });
-    EXPECT_EQ(Lista{}, tela.falhas);
+    EXPECT_EQ(Lista{}, tela.interacao.falhas);
     EXPECT_EQ(Lista{}, tela.interacao.mensagens);
     const auto& dm = *tela.dm;
     EXPECT_FALSE(tela.form->Cancelou()) << "Enter on the last field confirms";
@@ -507,5 +507,5 @@ TEST(SelecaoNaTela, PesquisaFiltraMarcaEConservaAsMarcas) {
             tela.teclar(Qt::Key_Escape);
         },
     });
-    EXPECT_EQ(Lista{}, tela.falhas);
+    EXPECT_EQ(Lista{}, tela.interacao.falhas);
 }

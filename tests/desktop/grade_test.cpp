@@ -546,7 +546,7 @@ TEST_F(Grade, DuzentasMilLinhasSemCopia) {
 TEST(GradeNaTela, QuemOuveAntesPodePedirTodosOsGrupos) {
     aplicacao();
     desktop::GradeBalanco balanco;
-    balanco.dados.AoMudarEstado([&] {
+    const auto assinatura = balanco.dados.AoMudarEstado([&] {
         if (balanco.dados.Active())
             balanco.grade.ExpandirTudo();
     });

@@ -15,6 +15,7 @@
 #include "suite/desktop/shell/MessageDialog.h"
 #include "suite/desktop/shell/StartDialog.h"
 #include "suite/program/DesktopCommand.h"
+#include "suite/script/FormDriver.h"
 
 #include <gtest/gtest.h>
 
@@ -295,6 +296,7 @@ class JanelaDoModulo : public Casca {
                 preencher(form);
             dentro_.MostrarModal(form);
         }
+        bool Falha(const base::TFalha& falha) override { return dentro_.Falha(falha); }
         void Focar(host::TControle& controle) override { dentro_.Focar(controle); }
         void Pesquisar(host::TZTLookupEx& lookup) override { dentro_.Pesquisar(lookup); }
         void ProcessarMensagens() override {}
@@ -442,6 +444,48 @@ TEST_F(JanelaDoModulo, ConsultaInteiraSoComOTeclado) {
     const auto antes = grade->lines().size();
     QTest::keyClick(janela.get(), Qt::Key_F5);
     EXPECT_EQ(antes, grade->lines().size());
+}
+
+TEST_F(JanelaDoModulo, FalhaNoDialogoAbertoApareceSobreEleEEleFica) {
+    copia.executar("ALTER TABLE CO01_CTBORCADAINF DROP TPDETALHE;");
+    bool aberto = false;
+    const auto ler = [](QDialog& mensagem) {
+        EXPECT_TRUE(parte<QLabel>(mensagem, "texto").text().contains(QStringLiteral("TPDETALHE")));
+    };
+    const auto preencher = [&](QDialog& dialogo) {
+        const auto enter = [&] { QTest::keyClick(dialogo.focusWidget(), Qt::Key_Return); };
+        enter();
+        QTest::keyClicks(dialogo.focusWidget(), "01012024");
+        enter();
+        QTest::keyClicks(dialogo.focusWidget(), "31032024");
+        enter();
+        enter();
+        ASSERT_EQ("CbDetalharSelecao", dialogo.focusWidget()->objectName().toStdString());
+        comModais({ler}, enter);
+        aberto = dialogo.isVisible();
+        EXPECT_EQ("CbDetalharSelecao", dialogo.focusWidget()->objectName().toStdString()) << "it was not left";
+    };
+    comModais({preencher}, [&] { acao("ActSelecionar").trigger(); });
+    EXPECT_TRUE(aberto);
+}
+
+TEST_F(JanelaDoModulo, CommitQueFalhaNaoImprime) {
+    copia.executar("DROP INDEX IX_ORCVLR_LINHA; ALTER TABLE CO01_CTBORCADAVLR DROP IDDEMACTOT;");
+    usuario.preencher = [this](host::TFormZTTandorPadraoResult& form) {
+        suite::script::FormDriver dialogo(form);
+        for (const auto& [nome, valor] : {std::pair{"DeDataIni", "01/01/2024"},
+                                          {"DeDataFim", "31/03/2024"},
+                                          {"CbSelecionar", "2"},
+                                          {"CbDetalharSelecao", "4"}}) {
+            dialogo.define(nome, valor);
+            dialogo.leave(nome);
+        }
+        interacao.confirmNextModal(true);
+    };
+    const auto ler = [](QDialog& mensagem) {
+        EXPECT_TRUE(parte<QLabel>(mensagem, "texto").text().contains(QStringLiteral("IDDEMACTOT")));
+    };
+    comModais({ler}, [&] { acao("ActSelecionar").trigger(); }); // and no word of a print behind it
 }
 
 TEST_F(JanelaDoModulo, CadaControleTemSeuLugar) {

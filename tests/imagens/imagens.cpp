@@ -94,6 +94,7 @@ class Usuario : public host::TInteracao {
         dentro_.confirmNextModal(true);
         dentro_.MostrarModal(form);
     }
+    bool Falha(const base::TFalha& falha) override { return dentro_.Falha(falha); }
     void Focar(host::TControle& controle) override { dentro_.Focar(controle); }
     void Pesquisar(host::TZTLookupEx& lookup) override { dentro_.Pesquisar(lookup); }
     void ProcessarMensagens() override { dentro_.ProcessarMensagens(); }

@@ -107,7 +107,7 @@ TEST_F(DataSet, ReabrirRefazCamposEEventosEFecharEsqueceTudo) {
         d.FieldByName("VALOR").FormatoExibicao = ",0.00";
     };
     int mudancas = 0;
-    cds.AoMudarEstado([&] { ++mudancas; });
+    const auto assinatura = cds.AoMudarEstado([&] { ++mudancas; });
     cds.Open();
     cds.Open();
     cds.Close();

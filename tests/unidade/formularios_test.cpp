@@ -43,7 +43,7 @@ class Form : public host::TForm {
 TEST(Controles, MarcarCorreARegraSoQuandoOEstadoMuda) {
     Form form;
     int cliques = 0;
-    form.B.AoMudar([&] { ++cliques; });
+    const auto assinatura = form.B.AoMudar([&] { ++cliques; });
     form.B.SetChecked(true);
     form.A.SetChecked(true);
     EXPECT_FALSE(form.B.Checked()) << "the rule of A ran inside the write";
@@ -60,6 +60,96 @@ TEST(Controles, MarcarCorreARegraSoQuandoOEstadoMuda) {
     EXPECT_TRUE(form.Data.EmBranco());
 }
 
+TEST(Controles, ComboTrocaListaEEscolhaDeUmaVezEAvisaSoOValorQueMuda) {
+    Form form;
+    int avisos = 0;
+    std::vector<std::string> valores;
+    const auto assinatura = form.Combo.AoMudar([&] { ++avisos; });
+    form.Combo.OnChange = [&] { valores.push_back(form.Combo.GetValorSelecionado()); };
+    form.Combo.SetValorSelecionado("2");
+    form.Combo.SetItens({"dois", "três"}, {"2", "3"}, "2");
+    EXPECT_EQ(0, form.Combo.ItemIndex());
+    EXPECT_EQ(2, avisos) << "the widgets see the new list at once";
+    EXPECT_EQ(std::vector<std::string>{"2"}, valores) << "another place in the list is no other value";
+    form.Combo.SetItens({"quatro", "três"}, {"4", "3"}, "3");
+    form.Combo.SetItens({"um"}, {"1"});
+    form.Combo.SetItens({"um"}, {"1"}, "9");
+    EXPECT_EQ((std::vector<std::string>{"2", "3", "1", ""}), valores) << "no value on the way is told";
+}
+
+TEST(Assinatura, VaiAteOFimDeQualquerDosLados) {
+    std::string ouvido;
+    host::TAssinatura antes;
+    host::TAssinatura depois;
+    {
+        host::TLabel rotulo("Rotulo");
+        antes = rotulo.AoMudar([&] {
+            ouvido += "a";
+            depois = {}; // also while they are being told
+        });
+        depois = rotulo.AoMudar([&] { ouvido += "d"; });
+        rotulo.SetCaption("1");
+        EXPECT_EQ("a", ouvido);
+        auto copia = antes;
+        antes = {};
+        rotulo.SetCaption("2");
+        EXPECT_EQ("aa", ouvido) << "a copy holds it";
+        copia = {};
+        rotulo.SetCaption("3");
+        EXPECT_EQ("aa", ouvido);
+        antes = rotulo.AoMudar([&] { ouvido += "x"; });
+    }
+    antes = {}; // of a control that is gone
+    EXPECT_EQ("aa", ouvido);
+}
+
+namespace {
+
+class Dialogo : public host::TFormZTTandorPadraoResult {
+  public:
+    Dialogo() : TFormZTTandorPadraoResult("Dialogo", "Diálogo") { Registrar({&Campo}); }
+    // Closes as the rules of a commit do, whatever happens.
+    void ActOKExecute(host::TControle*) override {
+        Fechar(1);
+        throw base::TFalha("gravar");
+    }
+    host::TZTDateEdit Campo{"Campo"};
+};
+
+} // namespace
+
+TEST(DialogoModal, FalhaFicaNeleEnquantoAbertoEAtrasDeleNadaCorre) {
+    apoio::Interacao interacao;
+    host::TServicos servicos;
+    servicos.Interacao = &interacao;
+    const host::TInstalacaoServicos instalados(servicos);
+    Dialogo form;
+    form.Campo.OnExit = [] { throw base::TFalha("sair"); };
+    form.Campo.OnKeyDown = [](host::TTecla) -> bool { throw base::TFalha("tecla"); };
+    bool depois = false;
+    interacao.aoMostrar = [&](host::TFormZTTandorPadraoResult&) {
+        suite::script::FormDriver usuario(form);
+        EXPECT_FALSE(form.SairDe(form.Campo)) << "the field is not left";
+        usuario.press("Campo", host::TTecla::Enter);
+        EXPECT_TRUE(form.Aberto());
+        EXPECT_THROW(usuario.define("Campo.Outro", "1"), suite::script::WrongUse) << "no failure of the form";
+        EXPECT_THROW(form.Realizar([] { throw std::logic_error("fault"); }), std::logic_error);
+        usuario.click("actOK");
+        depois = true;
+    };
+    try {
+        form.ShowModal();
+        FAIL() << "what stands behind the dialog must not run";
+    } catch (const base::TFalha& falha) {
+        EXPECT_STREQ("gravar", falha.what());
+    }
+    EXPECT_TRUE(depois) << "no failure goes through whoever shows the dialog";
+    EXPECT_EQ((std::vector<std::string>{"sair", "tecla"}), interacao.falhas);
+    interacao.aoMostrar = [&](host::TFormZTTandorPadraoResult&) { form.Executar(form.Acao("actSair")); };
+    EXPECT_EQ(2, form.ShowModal()) << "the failure was that showing's";
+    EXPECT_THROW(form.Executar(form.Acao("actOK")), base::TFalha) << "not shown, it passes at once";
+}
+
 TEST(FormDriver, FazOQueOUsuarioPodeENadaMais) {
     Form form;
     suite::script::FormDriver usuario(form);
@@ -72,7 +162,18 @@ TEST(FormDriver, FazOQueOUsuarioPodeENadaMais) {
     EXPECT_TRUE(saiu);
     usuario.click("Recusar");
     form.A.SetEnabled(false);
-    EXPECT_THROW(usuario.define("A", "1"), base::TFalha);
+    form.B.OnKeyDown = form.A.OnKeyDown = [](host::TTecla) -> bool {
+        ADD_FAILURE() << "a key in a control that nobody is in";
+        return true;
+    };
+    form.B.SetVisible(false);
+    for (const char* fora : {"A", "B"}) {
+        EXPECT_THROW(usuario.define(fora, "1"), suite::script::WrongUse);
+        EXPECT_THROW(usuario.click(fora), suite::script::WrongUse);
+        EXPECT_THROW(usuario.leave(fora), suite::script::WrongUse);
+        EXPECT_THROW(usuario.press(fora, host::TTecla::Enter), suite::script::WrongUse);
+    }
+    form.B.SetVisible(true);
     EXPECT_THROW(usuario.define("B", "sim"), base::TFalha);
     EXPECT_THROW(usuario.define("Combo", "3"), base::TFalha);
     try {

@@ -21,7 +21,8 @@ class Dialogo : public host::TFormZTTandorPadraoResult {
     Dialogo() : TFormZTTandorPadraoResult("Dialogo", "Um diálogo") {
         Fixo.SetEnabled(false);
         Opcao.SetItens({"um", "dois"}, {"1", "2"});
-        Registrar({&Data, &Caixa, &Fixo, &Opcao, &ActPerguntar, &ActProgredir, &ActFalhar, &ActEngolir});
+        Registrar({&Data, &Caixa, &Fixo, &Opcao, &ActPerguntar, &ActProgredir, &ActFalhar, &ActRecusar, &ActFechar,
+                   &ActEngolir});
     }
     void ActOKExecute(host::TControle*) override {
         if (Data.Date().Vazia()) {
@@ -52,6 +53,11 @@ class Dialogo : public host::TFormZTTandorPadraoResult {
     host::TAction ActFalhar{"ActFalhar", [] {
                                 throw base::TFalhaBanco(base::TTipoFalhaBanco::Comando, "O banco falhou.", "42000", {},
                                                         "X", "detalhe");
+                            }};
+    host::TAction ActRecusar{"ActRecusar", [] { throw base::TFalha("Assim não."); }};
+    host::TAction ActFechar{"ActFechar", [this] {
+                                Fechar(1);
+                                throw base::TFalha("Fechou.");
                             }};
     host::TAction ActEngolir{"ActEngolir", [] {
                                  try {
@@ -95,10 +101,7 @@ class Janela : public host::TFormZTTandorPadraoSelecao {
         FDataModule = std::make_unique<Modulo>();
     }
     void ActSelecionarExecute(host::TControle*) override {
-        try {
-            dialogo.ShowModal();
-        } catch (const base::TFalha&) { // a window that reports every failure
-        }
+        dialogo.ShowModal();
         dados.Open();
         Grade.SetVisible(true);
     }
@@ -123,13 +126,19 @@ Resultado executar(const std::string& roteiro) {
     std::ostringstream saida;
     Resultado resultado;
     try {
-        suite::script::ScriptRunner(entrada, saida, [] { return std::make_unique<Janela>(); }).run();
+        suite::script::ScriptRunner execucao(entrada, saida, [] { return std::make_unique<Janela>(); });
+        execucao.run();
+        if (execucao.toldFailure())
+            std::rethrow_exception(execucao.toldFailure());
     } catch (const ScriptFailure& falha) {
         resultado.falha = falha.what();
         resultado.codigo = falha.kind() == ScriptFailure::Kind::WrongStep ? 2 : 1;
     } catch (const base::TFalhaBanco& falha) {
         resultado.falha = falha.what();
         resultado.codigo = 3;
+    } catch (const base::TFalha& falha) {
+        resultado.falha = falha.what();
+        resultado.codigo = 1;
     }
     resultado.saida = saida.str();
     return resultado;
@@ -249,11 +258,23 @@ TEST(Roteiro, PassoErradoOuForaDeLugarTerminaComSuaLinha) {
     recusa("mostrar relatorio\n", 1, "Linha 1: O relatório não faz parte desta versão.");
 }
 
-TEST(Roteiro, FalhaDoBancoTerminaORoteiroMesmoQueAJanelaAEngula) {
-    const auto resultado = executar("selecionar\nclicar ActFalhar\nmostrar controles Data\n");
-    EXPECT_EQ(3, resultado.codigo);
-    EXPECT_EQ("O banco falhou.", resultado.falha);
-    EXPECT_EQ(Aberto, resultado.saida) << "no step behind it";
+TEST(Roteiro, FalhaNoDialogoAbertoEhDitaNeleEOsPassosSeguem) {
+    const auto dita = [](const char* frase) {
+        return std::string(R"({"passo":2,"tipo":"mensagem","nivel":"erro","titulo":"Erro:","texto":")") + frase +
+               R"(","botoes":["OK"],"resposta":6})" + "\n";
+    };
+    const auto doBanco = executar("selecionar\nclicar ActFalhar\nclicar actSair\n");
+    EXPECT_EQ(3, doBanco.codigo) << "however the script goes on";
+    EXPECT_EQ("O banco falhou.", doBanco.falha);
+    EXPECT_EQ(Aberto + dita("O banco falhou.") + fechado(3, 2), doBanco.saida);
+    const auto outra = executar("selecionar\nclicar ActRecusar\nclicar actSair\n");
+    EXPECT_EQ(1, outra.codigo);
+    EXPECT_EQ("Assim não.", outra.falha);
+    EXPECT_EQ(Aberto + dita("Assim não.") + fechado(3, 2), outra.saida);
+}
+
+TEST(Roteiro, FalhaAtrasDaQualODialogoFechouDizALinhaDoSeuPasso) {
+    recusa("selecionar\nclicar Caixa\nclicar ActFechar\nmostrar controles\n", 1, "Linha 3: Fechou.");
 }
 
 TEST(Roteiro, MostraGradeEModuloDeDados) {

@@ -94,7 +94,7 @@ terminal::Headless::Answer answer(const host::TMensagem& question, const Consult
             continue;
         if (value.empty())
             return {0, std::string(" Use ") + option + " " + values[0] + " ou " + option + " " + values[1] + "."};
-        return {value == values[0] ? 6 : 7, {}};
+        return {value == values[0] ? host::TResposta::Primeira : host::TResposta::Segunda, {}};
     }
     return {};
 }

@@ -12,7 +12,7 @@ namespace suite::program {
 
 namespace {
 
-// A failure of the database outranks what the steps behind it ran into.
+// A failure that was told of outranks what the steps behind it ran into.
 ExitCode play(std::istream& script, const host::TFabricaDeForm& window, const std::function<bool()>& cancelled) {
     script::ScriptRunner runner(script, std::cout, window, cancelled);
     auto code = ExitCode::Done;
@@ -23,8 +23,8 @@ ExitCode play(std::istream& script, const host::TFabricaDeForm& window, const st
         std::cerr << base::LinhasSemControles(failure.what()) << "\n";
         code = failure.kind() == script::ScriptFailure::Kind::WrongStep ? ExitCode::WrongUse : ExitCode::Refused;
     }
-    if (const auto& failure = runner.databaseFailure())
-        throw base::TFalhaBanco(*failure);
+    if (const auto& failure = runner.toldFailure())
+        std::rethrow_exception(failure);
     if (code == ExitCode::Done && !std::cout)
         throw base::TFalha("Não foi possível escrever o resultado na saída.");
     return code;

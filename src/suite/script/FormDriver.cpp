@@ -4,6 +4,7 @@
 #include "host/Lookup.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace suite::script {
 
@@ -38,7 +39,7 @@ std::vector<std::size_t> rowsOf(const host::TZTLookupEx& lookup, const host::TDa
         const auto& column = search.Colunas()[field->Indice()];
         const auto before = rows.size();
         for (std::size_t i = 0; i < search.RecordCount(); ++i)
-            if (TextoDe(column.Valor(search.LinhaDe(i))) == item.substr(key ? 1 : 0))
+            if (host::EhOCodigo(column.Valor(search.LinhaDe(i)), std::string_view(item).substr(key ? 1 : 0)))
                 rows.push_back(i + 1);
         if (rows.size() == before)
             throw WrongUse("A pesquisa de " + lookup.Nome() + " não tem o registro \"" + item + "\".");
@@ -59,21 +60,30 @@ void choose(host::TZTLookupEx& lookup, const std::string& value) {
     lookup.Marcar(*search, rowsOf(lookup, *search, std::string_view(value).substr(1, value.size() - 2)));
 }
 
-// A rule that refuses has told the user; he goes on.
-template <class TAct>
-void asUser(TAct act) {
-    try {
-        act();
-    } catch (const base::Abort&) { // the rule has told the user
-    }
-}
-
-void requireEnabled(const host::TControle& control) {
-    if (!control.Enabled())
-        throw WrongUse(control.Nome() + " está desabilitado para esta escolha.");
+// What no user could do is no failure of the form, which would be told in it.
+void asUser(host::TForm& form, const std::function<void()>& act) {
+    std::optional<WrongUse> wrong;
+    form.Realizar([&] {
+        try {
+            act();
+        } catch (const WrongUse& use) {
+            wrong = use;
+        }
+    });
+    if (wrong)
+        throw WrongUse(*wrong);
 }
 
 } // namespace
+
+host::TControle& FormDriver::usable(std::string_view name) const {
+    auto& found = control(form_, name);
+    if (!found.Enabled())
+        throw WrongUse(found.Nome() + " está desabilitado para esta escolha.");
+    if (!found.Visible())
+        throw WrongUse(found.Nome() + " não está à vista.");
+    return found;
+}
 
 host::TControle& FormDriver::control(const host::TForm& form, std::string_view name) {
     try {
@@ -84,9 +94,8 @@ host::TControle& FormDriver::control(const host::TForm& form, std::string_view n
 }
 
 void FormDriver::define(std::string_view name, const std::string& value) {
-    auto& target = control(form_, name);
-    requireEnabled(target);
-    asUser([&] {
+    auto& target = usable(name);
+    asUser(form_, [&] {
         if (auto* box = dynamic_cast<host::TZTCheckBox*>(&target))
             tick(*box, value);
         else if (auto* combo = dynamic_cast<host::TZTComboBox*>(&target))
@@ -100,19 +109,18 @@ void FormDriver::define(std::string_view name, const std::string& value) {
     });
 }
 
-void FormDriver::leave(std::string_view name) { form_.SairDe(control(form_, name)); }
+void FormDriver::leave(std::string_view name) { form_.SairDe(usable(name)); }
 
 void FormDriver::click(std::string_view name) {
-    auto& target = control(form_, name);
-    requireEnabled(target);
+    auto& target = usable(name);
     if (auto* action = dynamic_cast<host::TAction*>(&target))
         form_.Executar(*action);
     else if (auto* box = dynamic_cast<host::TZTCheckBox*>(&target))
-        asUser([&] { box->SetChecked(!box->Checked()); });
+        asUser(form_, [&] { box->SetChecked(!box->Checked()); });
     else
         throw WrongUse(target.Nome() + " não é um botão, uma ação ou uma caixa de marcar.");
 }
 
-void FormDriver::press(std::string_view name, host::TTecla key) { form_.Teclar(control(form_, name), key); }
+void FormDriver::press(std::string_view name, host::TTecla key) { form_.Teclar(usable(name), key); }
 
 } // namespace suite::script

@@ -8,14 +8,14 @@
 
 namespace suite::script {
 
-// What no user could do: an unknown name, a disabled control, a value that the control does not take.
+// What no user could do: an unknown name, a disabled or hidden control, a value that the control does not take.
 class WrongUse : public base::TFalha {
   public:
     using base::TFalha::TFalha;
 };
 
-// What a user does to a form, by the names of its controls. What no user could do is a WrongUse. An Abort of a rule
-// ends here, its message having been shown; other failures pass.
+// What a user does to a form (host::TForm::Realizar), by the names of its controls. What no user could do is a
+// WrongUse.
 class FormDriver {
   public:
     explicit FormDriver(host::TForm& form) : form_(form) {}
@@ -33,6 +33,8 @@ class FormDriver {
     static host::TControle& control(const host::TForm& form, std::string_view name);
 
   private:
+    host::TControle& usable(std::string_view name) const; // enabled and in view
+
     host::TForm& form_;
 };
 

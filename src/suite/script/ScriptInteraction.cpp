@@ -1,6 +1,7 @@
 #include "suite/script/ScriptInteraction.h"
 
 #include "host/Controles.h"
+#include "host/Dialogos.h"
 
 #include <algorithm>
 #include <utility>
@@ -89,18 +90,28 @@ int ScriptInteraction::takeAnswer(const host::TMensagem& question) {
     const auto answer = answers_.front();
     answers_.pop_front();
     // The third button cancels; a question without it is cancelled all the same.
-    if (answer.code == 7 && question.Botoes.size() < 2)
+    if (answer.code == host::TResposta::Segunda && question.Botoes.size() < 2)
         fail({Kind::WrongStep, answer.line, "A pergunta não tem o botão da resposta 7: " + question.Texto});
     return answer.code;
 }
 
 int ScriptInteraction::Mensagem(const host::TMensagem& message) {
     throwIfFailed();
-    const int answer = isQuestion(message) ? takeAnswer(message) : 6;
+    const int answer = isQuestion(message) ? takeAnswer(message) : host::TResposta::Primeira;
     out_.write("mensagem", describe(message, std::to_string(answer)));
-    if (message.Causa && !databaseFailure_)
-        databaseFailure_ = message.Causa;
+    if (message.Causa && !toldFailure_)
+        toldFailure_ = std::make_exception_ptr(*message.Causa);
     return answer;
+}
+
+bool ScriptInteraction::Falha(const base::TFalha& failure) {
+    std::optional<base::TFalhaBanco> cause;
+    if (const auto* ofDatabase = dynamic_cast<const base::TFalhaBanco*>(&failure))
+        cause = *ofDatabase;
+    else if (!toldFailure_)
+        toldFailure_ = std::make_exception_ptr(failure);
+    host::GZTUtilsDialogs.Erro(failure.what(), cause);
+    return true;
 }
 
 void ScriptInteraction::Progresso(const host::TEventoProgresso& event) {

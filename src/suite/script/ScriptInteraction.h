@@ -5,6 +5,7 @@
 #include "suite/script/ScriptReader.h"
 
 #include <deque>
+#include <exception>
 #include <functional>
 #include <optional>
 
@@ -26,13 +27,14 @@ class ScriptInteraction final : public host::TInteracao {
     void throwIfFailed() const;
     void throwIfAnswersLeft() const;
     void throwIfCancelled() const;
-    // The first failure of the database that a message told of.
-    const std::optional<base::TFalhaBanco>& databaseFailure() const { return databaseFailure_; }
+    // The first failure that was only told of: in a message, or in a dialog.
+    const std::exception_ptr& toldFailure() const { return toldFailure_; }
 
     int Mensagem(const host::TMensagem& message) override;
     void Progresso(const host::TEventoProgresso& event) override;
     bool ProgressoCancelado() override { return stopped() || (cancelAt_ > 0 && steps_ >= cancelAt_); }
     void MostrarModal(host::TFormZTTandorPadraoResult& form) override { onModal(form); }
+    bool Falha(const base::TFalha& failure) override;
     void Focar(host::TControle& control) override;
     void Pesquisar(host::TZTLookupEx& lookup) override { onSearch(lookup); }
     void ProcessarMensagens() override {}
@@ -50,7 +52,7 @@ class ScriptInteraction final : public host::TInteracao {
     std::function<bool()> cancelled_;
     std::deque<Answer> answers_;
     std::optional<ScriptFailure> failure_;
-    std::optional<base::TFalhaBanco> databaseFailure_;
+    std::exception_ptr toldFailure_;
     int nextCancel_ = 0; // for the progress dialog still to come; 0: none
     int cancelAt_ = 0;   // in the progress dialog shown last
     int steps_ = 0;

@@ -92,7 +92,7 @@ void ScriptRunner::execute(const Step& step) {
     } catch (const base::TFalhaBanco&) {
         throw;
     } catch (const base::TFalha& failure) {
-        throw ScriptFailure(Kind::Refused, step.line, failure.what());
+        throw ScriptFailure(Kind::Refused, out_.line(), failure.what()); // that of the step which closed a dialog
     }
 }
 

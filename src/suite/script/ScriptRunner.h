@@ -27,8 +27,8 @@ class ScriptRunner {
 
     // Throws ScriptFailure for what is wrong with the script; a database failure that reaches the window passes.
     void run();
-    // One that the window only told of: the steps behind it have run all the same.
-    const std::optional<base::TFalhaBanco>& databaseFailure() const { return interaction_.databaseFailure(); }
+    // The first failure that was only told of: the steps behind it have run all the same.
+    const std::exception_ptr& toldFailure() const { return interaction_.toldFailure(); }
 
   private:
     using Words = std::vector<std::string>;

@@ -4,6 +4,7 @@
 
 #include "base/Texto.h"
 
+#include <algorithm>
 #include <map>
 
 namespace suite::script {
@@ -51,8 +52,9 @@ void ScriptRunner::press(const Words& words) {
 }
 
 void ScriptRunner::answer(const Words& words) {
+    constexpr auto& Codes = host::TResposta::Todas;
     const auto code = base::NumeroOuZero(words.front());
-    if (code != 6 && code != 7 && code != 2)
+    if (std::find(Codes.begin(), Codes.end(), code) == Codes.end())
         throw WrongUse("Uma resposta é 6, 7 ou 2, e não \"" + words.front() + "\".");
     interaction_.answer(code);
 }

@@ -23,7 +23,7 @@ int Headless::Mensagem(const host::TMensagem& message) {
     ++count_;
     if (question)
         throw base::TFalha("A pergunta acima ficou sem resposta." + answer.advice);
-    return 6;
+    return host::TResposta::Primeira;
 }
 
 void Headless::MostrarModal(host::TFormZTTandorPadraoResult& form) {

@@ -19,7 +19,7 @@ class Headless final : public host::TInteracao {
 
     // Runs once for each dialog that opens; a dialog still open behind it is closed by its "Sair".
     std::function<void(host::TFormZTTandorPadraoResult&)> onModal;
-    // An answer by its result code, 0 for none, and then how to give one. A question that is answered is not shown.
+    // An answer by its host::TResposta, 0 for none, and then how to give one. A question that is answered is not shown.
     struct Answer {
         int code = 0;
         std::string advice;
@@ -36,6 +36,7 @@ class Headless final : public host::TInteracao {
     void Progresso(const host::TEventoProgresso& event) override { progress_.show(event); }
     bool ProgressoCancelado() override { return onCancelQuery && onCancelQuery(); }
     void MostrarModal(host::TFormZTTandorPadraoResult& form) override;
+    bool Falha(const base::TFalha&) override { return false; }
     void Focar(host::TControle&) override {}
     void Pesquisar(host::TZTLookupEx&) override {}
     void ProcessarMensagens() override {}

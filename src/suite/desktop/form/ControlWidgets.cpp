@@ -15,27 +15,21 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
-#include <QPointer>
 #include <QPushButton>
 
 namespace suite::desktop {
 
 namespace {
 
-// A control cannot be told to forget a listener: a widget that is gone listens no more.
+// The widgets outlive the binding, which is what listens for them.
 template <class TWidget, class TShow>
-TWidget* following(host::TControle& control, TWidget* widget, TShow show) {
-    const auto showAll = [&control, widget, show] {
+TWidget* following(host::TControle& control, TWidget* widget, FormBinding& binding, TShow show) {
+    binding.follow(control, [&control, widget, show] {
         widget->setEnabled(control.Enabled());
         if (widget->isHidden() == control.Visible() && !widget->isWindow())
             widget->setVisible(control.Visible());
         show();
-    };
-    control.AoMudar([guard = QPointer<QWidget>(widget), showAll] {
-        if (guard)
-            showAll();
     });
-    showAll();
     return widget;
 }
 
@@ -45,7 +39,7 @@ QWidget* checkBox(host::TZTCheckBox& control, FormBinding& binding, QWidget* par
         binding.attempt([&] { control.SetChecked(checked); });
         box->setChecked(control.Checked()); // a rule may have said otherwise
     });
-    return following(control, box, [&control, box] {
+    return following(control, box, binding, [&control, box] {
         box->setText(fromUtf8(control.Caption()));
         box->setChecked(control.Checked());
     });
@@ -61,7 +55,7 @@ QWidget* comboBox(host::TZTComboBox& control, FormBinding& binding, QWidget* par
         binding.attempt([&] { control.SetItemIndex(index); });
         combo->setCurrentIndex(control.ItemIndex());
     });
-    return following(control, combo, [&control, combo] {
+    return following(control, combo, binding, [&control, combo] {
         QStringList items;
         for (const auto& item : control.Itens())
             items.push_back(fromUtf8(item).trimmed());
@@ -82,7 +76,7 @@ QWidget* dateEdit(host::TZTDateEdit& control, FormBinding& binding, QWidget* par
     QObject::connect(date, &DateEdit::edited, &binding, [&control, &binding](const QString& text) {
         binding.attempt([&] { control.SetTexto(toUtf8(text)); });
     });
-    return following(control, date, [&control, date] { date->setShown(fromUtf8(control.Texto())); });
+    return following(control, date, binding, [&control, date] { date->setShown(fromUtf8(control.Texto())); });
 }
 
 QWidget* lookupEdit(host::TZTLookupEx& control, FormBinding& binding, QWidget* parent) {
@@ -94,14 +88,14 @@ QWidget* lookupEdit(host::TZTLookupEx& control, FormBinding& binding, QWidget* p
     });
     QObject::connect(edit, &LookupEdit::dropAsked, &binding,
                      [&control, &binding] { binding.attempt([&] { control.Digitar({}); }); });
-    return following(control, edit, [edit] { edit->follow(); });
+    return following(control, edit, binding, [edit] { edit->follow(); });
 }
 
-QWidget* label(host::TControle& control, QWidget* parent) {
+QWidget* label(host::TControle& control, FormBinding& binding, QWidget* parent) {
     const auto* coloured = dynamic_cast<const host::TLabelColorido*>(&control);
     auto* widget = coloured ? new ColourLabel(*coloured, parent) : new QLabel(parent);
     const bool swatch = coloured && coloured->Amostra(); // whose caption nobody could read
-    return following(control, widget, [&control, widget, swatch] {
+    return following(control, widget, binding, [&control, widget, swatch] {
         widget->setText(swatch ? QString() : fromMessage(control.Caption()));
     });
 }
@@ -117,12 +111,12 @@ QString captionOf(const host::TAction& action) {
 QWidget* button(host::TAction& action, FormBinding& binding, QWidget* parent) {
     auto* widget = new QPushButton(parent);
     QObject::connect(widget, &QPushButton::clicked, &binding, [&action, &binding] { binding.execute(action); });
-    return following(action, widget, [&action, widget] { widget->setText(captionOf(action)); });
+    return following(action, widget, binding, [&action, widget] { widget->setText(captionOf(action)); });
 }
 
-QWidget* panel(host::TPanel& control, QWidget* parent) {
+QWidget* panel(host::TPanel& control, FormBinding& binding, QWidget* parent) {
     auto* box = new PanelBox(parent);
-    return following(control, box, [&control, box] { box->setCaption(fromUtf8(control.Caption())); });
+    return following(control, box, binding, [&control, box] { box->setCaption(fromUtf8(control.Caption())); });
 }
 
 std::string_view withoutPrefix(std::string_view name) {
@@ -146,13 +140,13 @@ QWidget* makeWidget(host::TControle& control, FormBinding& binding, QWidget* par
     if (auto* lookup = dynamic_cast<host::TZTLookupEx*>(&control))
         return lookupEdit(*lookup, binding, parent);
     if (auto* grid = dynamic_cast<host::TGrade*>(&control))
-        return following(control, new GridPane(*grid, parent), [] {});
+        return following(control, new GridPane(*grid, parent), binding, [] {});
     if (auto* action = dynamic_cast<host::TAction*>(&control))
         return button(*action, binding, parent);
     if (auto* group = dynamic_cast<host::TPanel*>(&control))
-        return panel(*group, parent);
+        return panel(*group, binding, parent);
     if (isLabel(control))
-        return label(control, parent);
+        return label(control, binding, parent);
     throw base::TFalha("O controle \"" + control.Nome() + "\" não tem representação na tela.");
 }
 
@@ -186,18 +180,14 @@ QString spokenName(const host::TForm& form, const host::TControle& control) {
     return name;
 }
 
-void tieLabel(host::TControle& label, QWidget& labelWidget, host::TControle& control, QWidget& widget) {
+void tieLabel(host::TControle& label, QWidget& labelWidget, host::TControle& control, QWidget& widget,
+              FormBinding& binding) {
     if (auto* text = qobject_cast<QLabel*>(&labelWidget))
         text->setBuddy(&widget);
-    const auto show = [&label, &control, &labelWidget] {
-        labelWidget.setEnabled(label.Enabled() && control.Enabled());
-    };
-    for (auto* told : {&label, &control})
-        told->AoMudar([guard = QPointer<QWidget>(&labelWidget), show] {
-            if (guard)
-                show();
+    for (auto* followed : {&label, &control})
+        binding.follow(*followed, [&label, &control, &labelWidget] {
+            labelWidget.setEnabled(label.Enabled() && control.Enabled());
         });
-    show();
 }
 
 } // namespace suite::desktop

@@ -21,6 +21,7 @@ const host::TControle* labelOf(const host::TForm& form, const host::TControle& c
 // What a control is called: its label, otherwise its own caption, without marks and colon.
 QString spokenName(const host::TForm& form, const host::TControle& control);
 // Ties a label's widget to the widget of what it stands for.
-void tieLabel(host::TControle& label, QWidget& labelWidget, host::TControle& control, QWidget& widget);
+void tieLabel(host::TControle& label, QWidget& labelWidget, host::TControle& control, QWidget& widget,
+              FormBinding& binding);
 
 } // namespace suite::desktop

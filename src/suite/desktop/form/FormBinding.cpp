@@ -43,15 +43,20 @@ QWidget* FormBinding::widget(std::string_view name) {
     return made;
 }
 
+void FormBinding::follow(host::TControle& control, const std::function<void()>& show) {
+    followed_.push_back(control.AoMudar(show));
+    show();
+}
+
 void FormBinding::tie(host::TControle& control, QWidget& widget) {
     if (auto* target = labelled(form_, control); target && dynamic_cast<host::TLabel*>(&control)) {
         if (const auto known = widgets_.find(target->Nome()); known != widgets_.end() && known->second)
-            tieLabel(control, widget, *target, *known->second);
+            tieLabel(control, widget, *target, *known->second, *this);
         return;
     }
     if (const auto* label = labelOf(form_, control))
         if (const auto known = widgets_.find(label->Nome()); known != widgets_.end() && known->second)
-            tieLabel(form_.Controle(label->Nome()), *known->second, control, widget);
+            tieLabel(form_.Controle(label->Nome()), *known->second, control, widget, *this);
     // A grid keeps its keys, and labels and panels have none.
     if (dynamic_cast<host::TGrade*>(&control) || dynamic_cast<host::TLabel*>(&control) ||
         dynamic_cast<host::TPanel*>(&control))
@@ -143,8 +148,7 @@ void FormBinding::chainTabs() {
 void FormBinding::attempt(const std::function<void()>& deed) {
     const Deed running(*this);
     try {
-        deed();
-    } catch (const base::Abort&) { // the rule has told the user
+        form_.Realizar(deed);
     } catch (const std::exception& failure) {
         if (onFailure)
             onFailure(failure);

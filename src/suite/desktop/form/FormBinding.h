@@ -33,6 +33,8 @@ class FormBinding : public QObject {
     // The widget of a control or the button of an action, made at the first call; the window owns it. Throws TFalha for
     // a name that the form does not have.
     QWidget* widget(std::string_view name);
+    // Runs it now and at each change of the control, for as long as the binding lives.
+    void follow(host::TControle& control, const std::function<void()>& show);
     // Controls of the form that have no widget yet.
     std::vector<std::string> unbound() const;
     // Whether the control is one of this form's.
@@ -45,7 +47,7 @@ class FormBinding : public QObject {
     // Makes the order of tabs that of the form, the actions last. Call when all widgets stand in their places.
     void chainTabs();
 
-    // Runs a deed of the user; a failure that reaches the window goes to onFailure. A rule's Abort has told the user.
+    // Runs a deed of the user (host::TForm::Realizar); a failure that passes it goes to onFailure.
     void attempt(const std::function<void()>& deed);
     std::function<void(const std::exception& failure)> onFailure;
     // Leaves the field in which the user is, then runs the action unless that was refused.
@@ -97,6 +99,7 @@ class FormBinding : public QObject {
     host::TForm& form_;
     QWidget& window_;
     std::map<std::string, QWidget*, std::less<>> widgets_;
+    std::vector<host::TAssinatura> followed_;
     std::vector<QWidget*> tabs_;                        // in their order; empty: the window's own order
     std::map<const QObject*, host::TControle*> inputs_; // the parts of widgets that take keys and the mouse
     host::TControle* current_ = nullptr;                // entered, and not yet left

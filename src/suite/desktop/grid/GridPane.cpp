@@ -44,7 +44,7 @@ GridPane::GridPane(host::TGrade& grid, QWidget* parent)
     build();
     connectView();
     QPointer<GridPane> self(this); // listeners of a grid are never taken off
-    grid_.AoMudar([self] {
+    gridChanges_ = grid_.AoMudar([self] {
         if (self)
             self->refresh(Rows::Same);
     });
@@ -88,7 +88,7 @@ void GridPane::listen() {
     if (!rows || rows == heard_)
         return;
     heard_ = rows;
-    rows->AoMudarEstado([self = QPointer<GridPane>(this), rows] {
+    rowChanges_ = rows->AoMudarEstado([self = QPointer<GridPane>(this), rows] {
         if (self && self->grid_.DataSet() == rows)
             self->refresh(Rows::Loaded);
     });

@@ -124,6 +124,8 @@ class GridPane : public QWidget {
     host::TGrade& grid_;
     host::TZTDbGridDevLeiaute* layouts_ = nullptr;
     const host::TDataSet* heard_ = nullptr;
+    host::TAssinatura gridChanges_;
+    host::TAssinatura rowChanges_; // of heard_
     std::unique_ptr<GridRows> rows_;
     GridModel* model_;
     GridView* view_;

@@ -116,10 +116,7 @@ DialogWindow& DesktopInteraction::dialogOf(host::TFormZTTandorPadraoResult& form
     auto& dialog = dialogs_[&form];
     if (!dialog) {
         dialog = std::make_unique<DialogWindow>(form, window_);
-        dialog->binding().onFailure = [this](const std::exception& failure) {
-            if (onFailure)
-                onFailure(failure);
-        };
+        dialog->binding().onFailure = onFailure;
     }
     return *dialog;
 }
@@ -132,6 +129,12 @@ void DesktopInteraction::MostrarModal(host::TFormZTTandorPadraoResult& form) {
         dialog.run();
     if (form.Aberto()) // the program is ending
         form.Executar(form.Acao("actSair"));
+}
+
+bool DesktopInteraction::Falha(const base::TFalha& failure) {
+    if (onFailure)
+        onFailure(failure);
+    return true;
 }
 
 void DesktopInteraction::Focar(host::TControle& control) {

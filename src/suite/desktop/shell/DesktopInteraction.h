@@ -23,7 +23,7 @@ class DesktopInteraction final : public host::TInteracao {
 
     // The window that dialogs stand before, and the binding of its form. Null when it goes; the dialogs go with it.
     void attach(QWidget* window, FormBinding* binding);
-    // A failure that reaches a dialog.
+    // A failure in a dialog.
     std::function<void(const std::exception&)> onFailure;
     // Whether the next dialog is confirmed as it stands, and shown only if a rule keeps it open.
     void confirmNextModal(bool confirm) { confirmNext_ = confirm; }
@@ -32,6 +32,7 @@ class DesktopInteraction final : public host::TInteracao {
     void Progresso(const host::TEventoProgresso& event) override;
     bool ProgressoCancelado() override;
     void MostrarModal(host::TFormZTTandorPadraoResult& form) override;
+    bool Falha(const base::TFalha& failure) override;
     void Focar(host::TControle& control) override;
     void Pesquisar(host::TZTLookupEx& lookup) override;
     void ProcessarMensagens() override;

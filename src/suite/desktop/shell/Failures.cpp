@@ -10,8 +10,6 @@ namespace suite::desktop {
 
 namespace {
 
-constexpr int First = 6;
-
 int show(QStyle::StandardPixmap icon, const QString& text, const QString& details, const QStringList& buttons,
          QWidget* parent) {
     MessageContent content;
@@ -29,7 +27,7 @@ const QStringList JustOk{QStringLiteral("OK")};
 std::optional<base::TFalhaBanco> offerReconnect(const base::TFalhaBanco& failure,
                                                 const std::function<void()>& reconnect, QWidget* parent) {
     if (show(QStyle::SP_MessageBoxWarning, fromUtf8(failure.what()), fromUtf8(failure.Diagnostico()),
-             {QStringLiteral("Conectar &novamente"), QStringLiteral("&Fechar")}, parent) != First)
+             {QStringLiteral("Conectar &novamente"), QStringLiteral("&Fechar")}, parent) != host::TResposta::Primeira)
         return {};
     try {
         reconnect();

@@ -57,17 +57,8 @@ MainWindow::MainWindow(host::TFormZTTandorPadraoSelecao& form, WindowServices se
 }
 
 MainWindow::~MainWindow() {
-    alive_.reset();
     settings::keepState("janela/geometria", saveGeometry());
     settings::keepState("janela/divisao", splitter_->saveState());
-}
-
-void MainWindow::follow(host::TControle& control, std::function<void()> update) {
-    update();
-    control.AoMudar([alive = std::weak_ptr<bool>(alive_), update = std::move(update)] {
-        if (!alive.expired())
-            update();
-    });
 }
 
 // What the legend says of its colours: a swatch, and the text of the label behind it.
@@ -113,7 +104,7 @@ void MainWindow::makeBody() {
     title->setBackgroundRole(QPalette::AlternateBase);
     title->setAutoFillBackground(true);
     auto& titleControl = form_.Controle("PnlTitulo");
-    follow(titleControl, [title, &titleControl] {
+    binding_->follow(titleControl, [title, &titleControl] {
         title->setText(fromMessage(titleControl.Caption()));
         title->setVisible(titleControl.Visible());
     });
@@ -138,9 +129,9 @@ void MainWindow::makeBody() {
         }
         auto* legend = makeLegend(view, body);
         column->addWidget(legend);
-        follow(form_.Controle(view.grid), [this] { refresh(); });
+        binding_->follow(form_.Controle(view.grid), [this] { refresh(); });
         auto& legendControl = form_.Controle(view.legend);
-        follow(legendControl, [legend, &legendControl] { legend->setVisible(legendControl.Visible()); });
+        binding_->follow(legendControl, [legend, &legendControl] { legend->setVisible(legendControl.Visible()); });
     }
     empty_ = new EmptyState(*select_, grids);
     stack->addWidget(empty_, 1);
@@ -174,10 +165,7 @@ void MainWindow::makeStatus() {
     }
     for (const auto* source : form_.Fontes())
         if (source->DataSet)
-            source->DataSet->AoMudarEstado([this, alive = std::weak_ptr<bool>(alive_)] {
-                if (!alive.expired())
-                    refresh();
-            });
+            dataChanges_.push_back(source->DataSet->AoMudarEstado([this] { refresh(); }));
 }
 
 void MainWindow::setSidePane(QWidget* pane) {

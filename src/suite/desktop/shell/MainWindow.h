@@ -75,8 +75,6 @@ class MainWindow : public QMainWindow {
     QAction* addAction(const char* name, const QString& text, const QKeySequence& keys, std::function<void()> deed);
     QAction* formAction(const char* name, const char* otherwise, const char* absent);
     host::TAction* find(const char* name) const; // null for an action that the form does not have
-    // Runs now and whenever the control changes, while this window is there.
-    void follow(host::TControle& control, std::function<void()> update);
     void select();
     void repeat();
     void refresh();
@@ -86,7 +84,7 @@ class MainWindow : public QMainWindow {
 
     host::TFormZTTandorPadraoSelecao& form_;
     WindowServices services_;
-    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
+    std::vector<host::TAssinatura> dataChanges_;
     std::unique_ptr<FormBinding> binding_;
     std::vector<View> views_;
     QSplitter* splitter_ = nullptr;

@@ -54,7 +54,7 @@ QAction* MainWindow::formAction(const char* name, const char* otherwise, const c
         action->setToolTip(QString::fromUtf8(absent));
         return action;
     }
-    follow(*model, [model, action] {
+    binding_->follow(*model, [model, action] {
         if (!model->Caption().empty())
             action->setText(fromUtf8(model->Caption()));
         action->setEnabled(model->Enabled());
@@ -68,7 +68,7 @@ void MainWindow::makeActions() {
     select_ = addAction("ActSelecionar", fromUtf8(model.Caption()), {}, [this] { select(); });
     select_->setShortcuts({keys("Ctrl+N"), keys("F2")});
     select_->setToolTip(QStringLiteral("Escolher período, cenário e filtros (Ctrl+N ou F2)"));
-    follow(model, [this, &model] { select_->setEnabled(model.Enabled()); });
+    binding_->follow(model, [this, &model] { select_->setEnabled(model.Enabled()); });
     repeat_ = addAction("repetir", QStringLiteral("&Repetir a consulta"), keys("F5"), [this] { repeat(); });
     repeat_->setToolTip(QStringLiteral("Consultar de novo com a última seleção (F5)"));
     actual_ = formAction("ActAtualizarRealizado", "&Atualizar Realizado", "Não faz parte deste módulo");

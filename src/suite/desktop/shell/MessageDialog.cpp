@@ -18,7 +18,6 @@ namespace suite::desktop {
 
 namespace {
 
-constexpr int Codes[] = {6, 7, 2};
 constexpr int WidestText = 560;
 constexpr int NarrowestText = 260;
 
@@ -110,8 +109,9 @@ void MessageDialog::addButtons(const MessageContent& content) {
     row->addSpacing(24);
     row->addStretch(1);
     QString taken = details_.isEmpty() ? QString() : QStringLiteral("d");
-    for (qsizetype i = 0; i < content.buttons.size() && i < 3; ++i) {
-        const int code = Codes[i];
+    constexpr auto& Codes = host::TResposta::Todas;
+    for (qsizetype i = 0; i < std::min<qsizetype>(content.buttons.size(), Codes.size()); ++i) {
+        const int code = Codes[static_cast<std::size_t>(i)];
         auto* button = new QPushButton(withLetter(content.buttons[i], taken), this);
         button->setObjectName(QStringLiteral("botao%1").arg(code));
         button->setMinimumWidth(88);

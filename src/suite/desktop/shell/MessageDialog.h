@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/Interacao.h"
+
 #include <QDialog>
 #include <QString>
 #include <QStringList>
@@ -13,8 +15,8 @@ struct MessageContent {
     QStyle::StandardPixmap icon = QStyle::SP_MessageBoxInformation;
     QString title;
     QString text;        // plain, with its line breaks
-    QStringList buttons; // the answers 6, 7 and 2 in that order
-    int defaultCode = 6;
+    QStringList buttons; // the answers of host::TResposta in their order
+    int defaultCode = host::TResposta::Primeira;
     QString details; // folded away; empty: none
 };
 
@@ -37,8 +39,8 @@ class MessageDialog : public QDialog {
     QString text_;
     QString details_;
     QList<QPushButton*> buttons_;
-    int escape_ = 6;
-    int answer_ = 6;
+    int escape_ = host::TResposta::Primeira;
+    int answer_ = host::TResposta::Primeira;
 };
 
 } // namespace suite::desktop

@@ -20,7 +20,7 @@ namespace suite::desktop {
 namespace {
 
 constexpr const char* FolderSetting = "exportar/pasta";
-constexpr int OpenFile = 6;
+constexpr int OpenFile = host::TResposta::Primeira;
 constexpr const char* PictureEnding = ".pdf";
 
 } // namespace
@@ -87,7 +87,7 @@ void ResultExport::write(const GridPane& shown, const QString& file) {
     done.text = QStringLiteral("%1 linhas exportadas para\n%2")
                     .arg(QLocale().toString(static_cast<qulonglong>(shown.lines().size())), file);
     done.buttons = {QStringLiteral("&Abrir"), QStringLiteral("&Fechar")};
-    done.defaultCode = 7;
+    done.defaultCode = host::TResposta::Segunda;
     if (MessageDialog(done, &window_).ask() == OpenFile)
         QDesktopServices::openUrl(QUrl::fromLocalFile(file));
 }
