@@ -1,15 +1,19 @@
 // A grid of 200,000 lines: what opening, sorting, grouping and filtering cost, and the memory beside the dataset's own.
 //   medir [LINES [distintos]]  prints seconds and megabytes; with a name of its own for each line
+//   papel [LINES]              writes them to paper; prints seconds and the size of the file
 //   imagens FOLDER             paints the two grids as they look, in a light and in a dark palette
 #include "bench/Medicao.h"
 #include "suite/desktop/grid/GridPane.h"
 #include "suite/desktop/grid/GridView.h"
-#include "suite/desktop/look/Text.h"
+#include "suite/desktop/paper/PdfFile.h"
+#include "tests/apoio/Grades.h"
 #include "tests/desktop/Aplicacao.h"
-#include "tests/desktop/GradeApoio.h"
 
 #include <QClipboard>
 #include <QLineEdit>
+
+#include <filesystem>
+#include <unistd.h>
 
 namespace {
 
@@ -35,7 +39,7 @@ void settle() {
 }
 
 void measureGrid(std::size_t lines, bool distinctNames) {
-    desktop::GradeBalanco balance;
+    apoio::GradeBalanco balance;
     balance.grade.MudarColuna("FILIAL", [](auto& column) { column.Grupo = -1; });
     balance.encher(lines, 50, distinctNames);
     std::size_t bytes = 0;
@@ -96,6 +100,17 @@ void measureGrid(std::size_t lines, bool distinctNames) {
                 megabytes(bench::heapInUse() - heap), resident);
 }
 
+void measurePaper(std::size_t lines) {
+    apoio::GradeBalanco balance;
+    balance.encher(lines);
+    const suite::table::Table table(balance.grade);
+    const auto file = std::filesystem::temp_directory_path() / ("orcreal-" + std::to_string(::getpid()) + ".pdf");
+    const auto spent = bench::seconds([&] { suite::desktop::writePdf(table, file, {}); });
+    std::printf("%zu lines on paper: %.3f s, %.1f MB, process at its peak %.0f MB\n", lines, spent,
+                static_cast<double>(std::filesystem::file_size(file)) / (1024 * 1024), bench::memory("VmHWM"));
+    std::filesystem::remove(file);
+}
+
 void paint(GridPane& pane, const QString& file) {
     pane.resize(1400, 620);
     pane.show();
@@ -108,13 +123,10 @@ void paintImages(const QString& folder) {
         const auto name = folder + (dark ? QStringLiteral("/escuro-%1.png") : QStringLiteral("/claro-%1.png"));
         if (dark)
             QApplication::setPalette(darkPalette());
-        desktop::GradeBalanco balance;
+        apoio::GradeBalanco balance;
         balance.encher(300, 23);
+        balance.grade.Significados = balance.legenda();
         GridPane pane(balance.grade);
-        std::map<host::TCor, QString> meanings;
-        for (const auto& [color, text] : balance.legenda())
-            meanings[color] = suite::desktop::fromUtf8(text);
-        pane.setColourMeanings(meanings);
         paint(pane, name.arg(QStringLiteral("balanco")));
         pane.sortBy(5, true, false);
         pane.sortBy(4, false, true);
@@ -122,7 +134,7 @@ void paintImages(const QString& folder) {
         pane.search(QStringLiteral("12"));
         pane.view().setCurrentIndex(pane.view().model()->index(3, pane.view().model()->columnCount() - 1));
         paint(pane, name.arg(QStringLiteral("filtro")));
-        desktop::GradePeriodos periods;
+        apoio::GradePeriodos periods;
         periods.encher(40, 6);
         GridPane months(periods.grade);
         paint(months, name.arg(QStringLiteral("periodos")));
@@ -137,6 +149,8 @@ int main(int argc, char** argv) {
     const std::string action = argc > 1 ? argv[1] : "";
     if (action == "medir")
         measureGrid(argc > 2 ? static_cast<std::size_t>(std::atoll(argv[2])) : 200'000, argc > 3);
+    else if (action == "papel")
+        measurePaper(argc > 2 ? static_cast<std::size_t>(std::atoll(argv[2])) : 20'000);
     else if (action == "imagens" && argc > 2)
         paintImages(QString::fromLocal8Bit(argv[2]));
     else

@@ -6,16 +6,8 @@ namespace base {
 
 namespace {
 
-struct TSecao {
-    std::string Antes;
-    std::string Depois;
-    bool Milhares = false;
-    int Inteiros = 0;
-    int Decimais = 0;
-};
-
-TSecao LerSecao(std::string_view AFormato) {
-    TSecao LSecao;
+TSecaoNumerica LerSecao(std::string_view AFormato) {
+    TSecaoNumerica LSecao;
     bool LNumero = false;
     bool LPonto = false;
     for (char C : AFormato) {
@@ -33,7 +25,7 @@ TSecao LerSecao(std::string_view AFormato) {
 }
 
 // Of the value without its sign.
-std::string Digitos(const TDecimal& AValor, const TSecao& ASecao) {
+std::string Digitos(const TDecimal& AValor, const TSecaoNumerica& ASecao) {
     std::string LTexto = AValor.ComEscala(ASecao.Decimais).Texto();
     if (LTexto.front() == '-')
         LTexto.erase(0, 1);
@@ -54,19 +46,27 @@ std::string Digitos(const TDecimal& AValor, const TSecao& ASecao) {
 
 } // namespace
 
-std::string FormatarNumero(const TDecimal& AValor, std::string_view AFormato) {
-    const std::string LSimples = ",0." + std::string(static_cast<std::size_t>(AValor.Escala), '0');
-    if (AFormato.empty())
-        AFormato = LSimples;
-    const auto LDivisa = std::min(AFormato.find(';'), AFormato.size());
-    const auto LNegativa = AFormato.substr(std::min(LDivisa + 1, AFormato.size()));
-    TSecao LSecao = LerSecao(AFormato.substr(0, LDivisa));
+TFormatoNumerico::TFormatoNumerico(std::string_view ATexto, int AEscala) {
+    if (ATexto.empty()) {
+        Positiva = {{}, {}, AEscala > 0, 1, AEscala};
+        return;
+    }
+    const auto LDivisa = std::min(ATexto.find(';'), ATexto.size());
+    Positiva = LerSecao(ATexto.substr(0, LDivisa));
+    if (LDivisa + 1 < ATexto.size())
+        Negativa = LerSecao(ATexto.substr(LDivisa + 1));
+}
+
+std::string FormatarNumero(const TDecimal& AValor, const TFormatoNumerico& AFormato) {
     // What rounds to zero has no sign.
-    const bool LMenor = AValor.ComEscala(LSecao.Decimais).Unidades < 0;
-    if (LMenor && !LNegativa.empty())
-        LSecao = LerSecao(LNegativa);
-    const char* LSinal = LMenor && LNegativa.empty() ? "-" : "";
+    const bool LMenor = AValor.ComEscala(AFormato.Positiva.Decimais).Unidades < 0;
+    const auto& LSecao = LMenor && AFormato.Negativa ? *AFormato.Negativa : AFormato.Positiva;
+    const char* LSinal = LMenor && !AFormato.Negativa ? "-" : "";
     return LSinal + LSecao.Antes + Digitos(AValor, LSecao) + LSecao.Depois;
+}
+
+std::string FormatarNumero(const TDecimal& AValor, std::string_view AFormato) {
+    return FormatarNumero(AValor, TFormatoNumerico(AFormato, AValor.Escala));
 }
 
 } // namespace base

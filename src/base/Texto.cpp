@@ -131,4 +131,23 @@ std::int32_t NumeroOuZero(std::string_view ATexto) {
     return LResultado.ec == std::errc{} && LResultado.ptr == LFim ? LNumero : 0;
 }
 
+std::size_t Caracteres(std::string_view AUtf8) {
+    return static_cast<std::size_t>(std::count_if(AUtf8.begin(), AUtf8.end(),
+                                                  [](char C) { return (static_cast<unsigned char>(C) & 0xC0U) != 0x80; }));
+}
+
+std::string SemAcentos(std::string_view AUtf8) {
+    constexpr std::string_view De0xC0 = "aaaaaaaceeeeiiiidnooooo*ouuuuyts"; // U+00C0 to U+00DF; twice, from U+00E0 on
+    std::string LTexto;
+    LTexto.reserve(AUtf8.size());
+    for (std::size_t I = 0; I < AUtf8.size(); ++I) {
+        const auto LByte = static_cast<unsigned char>(AUtf8[I]);
+        if (LByte == 0xC3 && I + 1 < AUtf8.size())
+            LTexto += De0xC0[(static_cast<unsigned char>(AUtf8[++I]) - 0x80U) % De0xC0.size()];
+        else
+            LTexto += LByte >= 'A' && LByte <= 'Z' ? static_cast<char>(LByte + ('a' - 'A')) : AUtf8[I];
+    }
+    return LTexto;
+}
+
 } // namespace base

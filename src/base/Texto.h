@@ -22,6 +22,10 @@ BASE_API std::string QuotedStr(std::string_view ATexto);
 BASE_API std::string Trim(std::string_view ATexto);
 // Bytes of the code point with which the text begins; 0 where that is not UTF-8.
 BASE_API std::size_t TamanhoDoCaractere(std::string_view AUtf8);
+// Code points of a UTF-8 text; what the database holds takes one column of a terminal each.
+BASE_API std::size_t Caracteres(std::string_view AUtf8);
+// Letters of ISO8859_1 without case and accents, as the database compares them; anything else as it is.
+BASE_API std::string SemAcentos(std::string_view AUtf8);
 // As one line that a terminal can be given: every control character as the sign that stands for it, and what is not
 // UTF-8 as the replacement character.
 BASE_API std::string SemControles(std::string_view ATexto);

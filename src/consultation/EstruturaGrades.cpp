@@ -104,7 +104,7 @@ TColunasGrade ColunasDbtvCtbOrcada() {
         TDesenho("PERCORCADO", "%", Orcado).Com(TPapelColuna::Percentual).Cedendo(40),
         TDesenho("VLRORCADO", "Valor", Orcado).Com(TPapelColuna::Dinheiro),
         TDesenho("VLRREALIZADO", "Valor Realizado", Realizado).Com(TPapelColuna::Dinheiro),
-        TDesenho("DELTAVLR", "Variação", Realizado).Com(TPapelColuna::Desvio).Somando({"VLRREALIZADO", "-VLRORCADO"}),
+        TDesenho("DELTAVLR", "Variação", Realizado).Com(TPapelColuna::Desvio).Somando({"VLRORCADO", "-VLRREALIZADO"}),
         TDesenho("DELTAPERC", "% Realizado", Realizado).Com(TPapelColuna::Percentual).Cedendo(1),
         TDesenho("DELTAVARIACAO", "% Variação", Realizado).Com(TPapelColuna::PercentualDesvio).Cedendo(2),
         TDesenho("RECDESP", "Tipo Conta", Realizado).Cedendo(50),
@@ -139,7 +139,7 @@ TColunasGrade ColunasDbtvMostraCtbOrcMensal() {
     }
     for (const auto& LColuna :
          {TDesenho("TOTAL", "Total").Com(TPapelColuna::Total).Somando(LPeriodos),
-          TDesenho("PERCTOT", "%").Com(TPapelColuna::Percentual), TDesenho("CTATITULO", "").Oculta(),
+          TDesenho("PERCTOT", "%").Com(TPapelColuna::Percentual).Cedendo(20), TDesenho("CTATITULO", "").Oculta(),
           TDesenho("TIPOLINHA", "").Oculta(), TDesenho("IDPLANO", "").Oculta()})
         LColunas.push_back(LColuna);
     Achar(LColunas, "PERCTOT").Extenso = "% Total";

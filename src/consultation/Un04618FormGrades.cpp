@@ -53,6 +53,11 @@ void TForm04618::ConfigurarControles() {
 void TForm04618::ConfigurarGrades() {
     DbgCtbOrcada.SetColunas(ColunasDbtvCtbOrcada());
     DbgCtbOrcada.Linhas = LinhasDbtvCtbOrcada();
+    for (const auto& [LAmostra, LTexto] : {std::pair{&LblCorRecRealizMaiorProj, &LblRecRealizMaiorProj},
+                                           {&LblCorRecRealizMenorProj, &LblRecRealizMenorProj},
+                                           {&LblCorDespRealizMaiorProj, &LblDespRealizMaiorProj},
+                                           {&LblCorDespRealizMenorProj, &LblDespRealizMenorProj}})
+        DbgCtbOrcada.Significados[LAmostra->Fonte()] = LTexto->Caption();
     DbgCtbOrcada.RegraDaCelula = [](const host::TCelula& C) { return AparenciaDaCelula(LerCelulaBalanco(C)); };
     FAssinaturas.push_back(AoMudarAgrupamento(DbgCtbOrcada, [this] { DbtvCtbOrcadaDataControllerGroupingChanged(); }));
     DbgMostraCtbOrcMensal.SetColunas(ColunasDbtvMostraCtbOrcMensal());

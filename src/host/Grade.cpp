@@ -7,25 +7,9 @@
 
 namespace host {
 
-std::string TituloPorExtenso(const std::vector<const TColunaGrade*>& AColunas, std::size_t AIndice) {
-    const auto LVezes = [&](const std::string& ATitulo) {
-        return std::count_if(AColunas.begin(), AColunas.end(), [&](const auto* C) { return C->Titulo == ATitulo; });
-    };
-    const auto& LColuna = *AColunas[AIndice];
-    if (LVezes(LColuna.Titulo) == 1)
-        return LColuna.Titulo;
-    if (!LColuna.Faixa.empty())
-        return LColuna.Faixa.starts_with(LColuna.Titulo) ? LColuna.Faixa : LColuna.Titulo + " " + LColuna.Faixa;
-    while (AIndice > 0)
-        if (const auto& LAntes = AColunas[--AIndice]->Titulo; !LAntes.empty() && LVezes(LAntes) == 1)
-            return LColuna.Titulo + " " + LAntes;
-    return LColuna.Titulo;
-}
-
 std::string TextoExibido(const base::TValor& AValor, std::string_view AFormato) {
     if (const auto* LDecimal = std::get_if<base::TDecimal>(&AValor))
-        return LDecimal->Escala == 0 && AFormato.empty() ? LDecimal->Texto()
-                                                         : base::FormatarNumero(*LDecimal, AFormato);
+        return base::FormatarNumero(*LDecimal, AFormato);
     if (const auto* LData = std::get_if<base::TDataHora>(&AValor))
         return LData->Texto();
     return base::TextoDe(AValor);
@@ -37,12 +21,11 @@ base::TValor TCelula::Valor(std::string_view ACampo) const {
     return LCampo ? LDados->Colunas()[LCampo->Indice()].Valor(LDados->LinhaDe(Posicao)) : base::TValor{};
 }
 
-std::string TCelula::Texto() const {
-    const auto* LDados = Grade->DataSet();
-    const auto* LCampo = LDados ? LDados->FindField(Coluna->Campo) : nullptr;
-    if (!LCampo)
-        return {};
-    return TextoExibido(Valor(Coluna->Campo), Coluna->Formato.empty() ? LCampo->FormatoExibicao : Coluna->Formato);
+std::string TCelula::Texto() const { return TextoExibido(Valor(Coluna->Campo), Grade->FormatoDe(*Coluna)); }
+
+std::string TGrade::FormatoDe(const TColunaGrade& AColuna) const {
+    const auto* LCampo = AColuna.Formato.empty() && DataSet() ? DataSet()->FindField(AColuna.Campo) : nullptr;
+    return LCampo ? LCampo->FormatoExibicao : AColuna.Formato;
 }
 
 void TGrade::Avisar() { Mudar(FVersao, FVersao + 1); }

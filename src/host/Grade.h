@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -41,7 +42,7 @@ struct HOST_API TColunaGrade {
     bool Identificacao = false; // says which line it is, and stays in view when the others scroll
     TPapelColuna Papel = TPapelColuna::Comum;
     std::string Extenso = {}; // the title where no neighbour and no band explains it; empty: the title itself
-    int Cede = 0;             // where room is narrow the highest gives way first; 0 stays
+    int Cede = 0;        // where room is narrow the highest gives way first; 0 stays
     // Fields of its line of which it is the sum, a "-" before one that is taken away; none: it stands for itself.
     std::vector<std::string> Parcelas = {};
 };
@@ -81,11 +82,15 @@ class HOST_API TGrade : public TControle {
     const TDataSet* DataSet() const { return FFonte.DataSet; }
     const std::vector<TColunaGrade>& Colunas() const { return FColunas; }
     void SetColunas(std::vector<TColunaGrade> AColunas);
+    // That of the column's numbers: its own or its field's; empty for their plain form.
+    std::string FormatoDe(const TColunaGrade& AColuna) const;
     // Throw TFalha for a field without a column.
     const TColunaGrade& Coluna(std::string_view ACampo) const;
     void MudarColuna(std::string_view ACampo, const std::function<void(TColunaGrade&)>& AMudanca);
 
     TRegraDasLinhas Linhas;
+    // What the rules say by the font colour of a line, so that a face need not say it by colour alone.
+    std::map<TCor, std::string> Significados;
     // The rule of the window; absent: plain cells.
     std::function<TAparencia(const TCelula&)> RegraDaCelula;
     TAparencia Aparencia(const TCelula& ACelula) const;
@@ -107,10 +112,6 @@ class HOST_API TGrade : public TControle {
     std::vector<TColunaGrade> FColunas;
     std::uint64_t FVersao = 0; // of the columns: a change tells the listeners
 };
-
-// The title of one of the columns so that it is told from the others without its band: "Valor" below "Valor Base" is
-// "Valor Base", "%" behind "Janeiro" is "% Janeiro".
-HOST_API std::string TituloPorExtenso(const std::vector<const TColunaGrade*>& AColunas, std::size_t AIndice);
 
 // A value as a Brazilian reader expects it: numbers by the format (empty: a whole number plain, another with all its
 // decimals), dates as dd/mm/aaaa, "" for NULL.

@@ -36,20 +36,6 @@ class TCursorDeLinhas : public TCursor {
     std::size_t FProxima = 0;
 };
 
-// Letters of ISO8859_1 without case and accents, as the database compares them; anything else as it is.
-std::string SemAcentos(std::string_view AUtf8) {
-    constexpr std::string_view De0xC0 = "aaaaaaaceeeeiiiidnooooo*ouuuuyts"; // U+00C0 to U+00DF; twice, from U+00E0 on
-    std::string LTexto;
-    for (std::size_t I = 0; I < AUtf8.size(); ++I) {
-        const auto LByte = static_cast<unsigned char>(AUtf8[I]);
-        if (LByte == 0xC3 && I + 1 < AUtf8.size())
-            LTexto += De0xC0[(static_cast<unsigned char>(AUtf8[++I]) - 0x80U) % De0xC0.size()];
-        else
-            LTexto += LByte >= 'A' && LByte <= 'Z' ? static_cast<char>(LByte + ('a' - 'A')) : AUtf8[I];
-    }
-    return LTexto;
-}
-
 // The first row, in the order of the search, with that code in the field; the number of rows when there is none.
 std::size_t Procurar(const TDataSet& ADataSet, const std::string& ACampo, const std::string& ATexto) {
     const auto* LCampo = ADataSet.FindField(ACampo);
@@ -106,14 +92,14 @@ std::unique_ptr<TZTClientDataSet> TZTLookupEx::Pesquisar() const {
 }
 
 std::vector<std::size_t> TZTLookupEx::Filtrar(const TDataSet& APesquisa, std::string_view ATexto) const {
-    const auto LProcurado = SemAcentos(base::Trim(ATexto));
+    const auto LProcurado = base::SemAcentos(base::Trim(ATexto));
     std::vector<std::size_t> LPosicoes;
     for (std::size_t I = 0; I < APesquisa.RecordCount(); ++I)
         if (std::any_of(FDefinicao.Colunas.begin(), FDefinicao.Colunas.end(), [&](const TColunaLookup& C) {
                 const auto* LCampo = APesquisa.FindField(C.Campo);
                 const auto& LColuna = APesquisa.Colunas()[LCampo->Indice()];
                 const auto LTexto = TextoExibido(LColuna.Valor(APesquisa.LinhaDe(I)), LCampo->FormatoExibicao);
-                return SemAcentos(LTexto).find(LProcurado) != std::string::npos;
+                return base::SemAcentos(LTexto).find(LProcurado) != std::string::npos;
             }))
             LPosicoes.push_back(I + 1);
     return LPosicoes;

@@ -1,10 +1,11 @@
 // A grid on screen: what keys and mouse do to it, and what it costs.
+#include "apoio/Grades.h"
 #include "apoio/Hospedeiro.h"
 #include "desktop/Aplicacao.h"
-#include "desktop/GradeApoio.h"
 #include "suite/desktop/grid/ColumnDialog.h"
 #include "suite/desktop/grid/FilterRow.h"
 #include "suite/desktop/grid/GridFooter.h"
+#include "suite/desktop/grid/GridLayouts.h"
 #include "suite/desktop/grid/GridPane.h"
 #include "suite/desktop/grid/GroupPanel.h"
 #include "suite/desktop/grid/SearchBar.h"
@@ -73,7 +74,7 @@ class Grade : public testing::Test {
     }
     // Two establishments of three accounts each, the first of each a title.
     void mostrarSeis() {
-        using B = desktop::GradeBalanco;
+        using B = apoio::GradeBalanco;
         const std::int64_t m = 1'000'000;
         balanco.dados.deLinhas({B::linha("3", 10, 1, "Receitas", 30 * m, 30 * m, 60 * m, true, true),
                                 B::linha("3.1", 11, 1, "Pães", 10 * m, 10 * m, 20 * m, true, false),
@@ -135,8 +136,8 @@ class Grade : public testing::Test {
         return nullptr;
     }
 
-    desktop::GradeBalanco balanco;
-    desktop::GradePeriodos periodos;
+    apoio::GradeBalanco balanco;
+    apoio::GradePeriodos periodos;
     std::unique_ptr<GridPane> painel;
     std::unique_ptr<QMenu> menu;
     using Posicoes = std::vector<std::uint32_t>;
@@ -191,11 +192,11 @@ TEST_F(Grade, ColunaArrastadaFicaNaFaixaOuVaiParaOPainelDeGrupos) {
     arrastar(*titulos, titulo("RECDESP"), titulos->mapFromGlobal(grupos->mapToGlobal(grupos->rect().center())));
     EXPECT_EQ(1, balanco.grade.Coluna("RECDESP").Grupo);
     EXPECT_EQ("Filial: 1 (3 linhas)", modelo().index(0, 0).data().toString().toStdString());
-    EXPECT_EQ("Tipo Conta: Receita (3 linhas)", modelo().index(1, 0).data().toString().toStdString());
+    EXPECT_EQ("Valor Realizado Tipo Conta: Receita (3 linhas)", modelo().index(1, 0).data().toString().toStdString());
     painel->findChild<QAbstractButton*>(QStringLiteral("GrupoFILIAL"))->click();
     EXPECT_EQ(0, balanco.grade.Coluna("RECDESP").Grupo);
     EXPECT_EQ(-1, balanco.grade.Coluna("FILIAL").Grupo);
-    EXPECT_EQ("Tipo Conta: Despesa (3 linhas)", modelo().index(0, 0).data().toString().toStdString());
+    EXPECT_EQ("Valor Realizado Tipo Conta: Despesa (3 linhas)", modelo().index(0, 0).data().toString().toStdString());
 }
 
 TEST_F(Grade, LarguraCabeOTextoEFicaComoOUsuarioQuis) {
@@ -321,6 +322,17 @@ TEST_F(Grade, CopiaLevaTitulosETextoComoSeVe) {
     marcar(1, "CLASSIFCONTAB", 1, "CODIGO");
     teclar(vista, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ("Classificação\tConta/Tot.\tSub\n3\t10\t", lerArea().toStdString()) << "a blank cell is blank";
+    balanco.dados.Close();
+    using B = apoio::GradeBalanco;
+    balanco.dados.deLinhas({B::linha("-3", 10, 1, "=1+1", 0, -30'000'000, 0, true, false)});
+    balanco.dados.Open();
+    assentar();
+    marcar(1, "CLASSIFCONTAB", 1, "VLRORCADO");
+    painel->copy(false);
+    EXPECT_TRUE(lerArea().startsWith(QStringLiteral("'-3\t10\t\t\t'=1+1\t"))) << lerArea().toStdString();
+    EXPECT_TRUE(lerArea().endsWith(QStringLiteral("\t-30,00"))) << "a number is no formula";
+    balanco.dados.Close();
+    mostrarSeis();
     painel->copyAll();
     EXPECT_EQ(8, lerArea().count(QLatin1Char('\n'))) << "titles, two groups and six lines";
     EXPECT_TRUE(lerArea().contains(QStringLiteral("\nFilial: 2 (3 linhas)\t")));
@@ -334,8 +346,8 @@ TEST_F(Grade, EscolhaDeColunasEscreveNaGradeENaoOfereceAsTecnicas) {
     EXPECT_TRUE(acaoDe(*descCusto, QStringLiteral("Desc.Custo"))->isChecked() ||
                 balanco.grade.Coluna("DESCCCUSTO").Grupo == 1);
     painel->groupBy("DESCCCUSTO", false);
-    acaoDe(*acao(QStringLiteral("Colunas"))->menu(), QStringLiteral("Valor Base"))->trigger();
-    EXPECT_FALSE(balanco.grade.Coluna("VLRBASE").Visivel);
+    acaoDe(*acao(QStringLiteral("Colunas"))->menu(), QStringLiteral("Valor Realizado Variação"))->trigger();
+    EXPECT_FALSE(balanco.grade.Coluna("DELTAVLR").Visivel);
 
     suite::desktop::ColumnDialog dialogo(balanco.grade.Colunas(), nullptr);
     auto* lista = dialogo.findChild<QListWidget*>();
@@ -382,7 +394,7 @@ TEST_F(Grade, LeiautesVoltamPeloMenu) {
     painel->moveColumn(0, 2);
     painel->groupBy("RECDESP", true);
     const auto meu = campos();
-    painel->saveLayout("Mês");
+    painel->layouts()->save("Mês");
     EXPECT_TRUE(acao(QStringLiteral("Mês"))->isChecked());
     acao(QStringLiteral("Padrão"))->trigger();
     EXPECT_EQ(desenho, campos());
@@ -394,7 +406,7 @@ TEST_F(Grade, LeiautesVoltamPeloMenu) {
     EXPECT_EQ(desenho, campos());
     EXPECT_EQ(nullptr, acao(QStringLiteral("Mês")));
     EXPECT_TRUE(interacao.mensagens.empty());
-    painel->saveLayout("  ");
+    painel->layouts()->save("  ");
     EXPECT_EQ(std::vector<std::string>{"Informe o nome do leiaute."}, interacao.mensagens);
     std::filesystem::remove_all(pasta);
 }
@@ -419,6 +431,16 @@ TEST_F(Grade, ConjuntoFechadoNaoMostraNada) {
     painel.reset();
     balanco.encher(10); // nobody is left to tell
     balanco.grade.ExpandirTudo();
+}
+
+TEST_F(Grade, FormatoDadoDepoisDeAbrirVale) {
+    balanco.dados.AfterOpen = [](host::TDataSet& dados) {
+        dados.FieldByName("INDICEATBASE").FormatoExibicao = ",0.00 '%'";
+    };
+    mostrar(balanco.grade);
+    balanco.encher(3);
+    assentar();
+    EXPECT_EQ("0,00 '%'", texto(1, "INDICEATBASE").toStdString());
 }
 
 TEST_F(Grade, IdentificacaoFicaEmVista) {
@@ -461,16 +483,13 @@ TEST_F(Grade, PeriodosSomamUmSoTipoDeLinhaEDizemDeQuemEhALinhaSozinha) {
 }
 
 TEST_F(Grade, SignificadoDaCorTambemEstaEscrito) {
+    balanco.grade.Significados = balanco.legenda();
     mostrarSeis();
-    std::map<host::TCor, QString> significados;
-    for (const auto& [cor, dito] : balanco.legenda())
-        significados[cor] = suite::desktop::fromUtf8(dito);
-    painel->setColourMeanings(significados);
     const auto& dados = static_cast<const suite::desktop::GridModel&>(modelo());
-    EXPECT_EQ("R>", suite::desktop::GridModel::mark(dados.meaning(2)).toStdString());
-    EXPECT_EQ("R<", suite::desktop::GridModel::mark(dados.meaning(3)).toStdString());
+    EXPECT_EQ("R>", dados.sign(2).toStdString());
+    EXPECT_EQ("R<", dados.sign(3).toStdString());
     EXPECT_EQ("", dados.meaning(6).toStdString()) << "an expense on target";
-    EXPECT_EQ("D<", suite::desktop::GridModel::mark(dados.meaning(7)).toStdString());
+    EXPECT_EQ("D<", dados.sign(7).toStdString());
     EXPECT_TRUE(modelo()
                     .index(2, 0)
                     .data(Qt::ToolTipRole)
@@ -545,7 +564,7 @@ TEST_F(Grade, DuzentasMilLinhasSemCopia) {
 // The window listens to the dataset too, and asks for all groups as soon as it opens; whose ear is the first is chance.
 TEST(GradeNaTela, QuemOuveAntesPodePedirTodosOsGrupos) {
     aplicacao();
-    desktop::GradeBalanco balanco;
+    apoio::GradeBalanco balanco;
     const auto assinatura = balanco.dados.AoMudarEstado([&] {
         if (balanco.dados.Active())
             balanco.grade.ExpandirTudo();

@@ -1,10 +1,9 @@
 // The shell: messages, progress, failures, and the window that shows what its form says.
 #include "apoio/Bases.h"
 #include "base/Falhas.h"
-#include "consultation/Un04618Form.h"
 #include "desktop/Aplicacao.h"
+#include "desktop/Modulo.h"
 #include "host/Dialogos.h"
-#include "host/Registro.h"
 #include "host/Servicos.h"
 #include "suite/desktop/form/DialogWindow.h"
 #include "suite/desktop/grid/GridPane.h"
@@ -23,6 +22,7 @@
 #include <QAction>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QProgressBar>
@@ -306,18 +306,14 @@ class JanelaDoModulo : public Casca {
     };
 
     JanelaDoModulo() {
-        static const bool registrada = [] {
-            host::RegisterClass("TForm04618", [] { return std::make_unique<pct04618::TForm04618>(); });
-            return true;
-        }();
-        static_cast<void>(registrada);
+        registrarModulo();
         const suite::program::Options opcoes;
         programa = suite::program::desktopProgram(opcoes, "versão");
-        sessao = programa.login(conexao, usuario);
+        sessao = programa.login({copia.alvo(), {}, {}}, conexao, usuario);
         WindowServices servicos;
         servicos.company = sessao->texts().company;
         servicos.formats = programa.formats;
-        servicos.exportGrid = programa.exportGrid;
+        servicos.write = [this](const auto& tabela, const auto& arquivo) { sessao->write(tabela, arquivo); };
         servicos.confirmNextModal = [this](bool confirmar) { interacao.confirmNextModal(confirmar); };
         servicos.reconnect = [this] {
             ++reconexoes;
@@ -511,23 +507,28 @@ TEST_F(JanelaDoModulo, TudoOQueRecebeOFocoTemNome) {
 
 TEST_F(JanelaDoModulo, ExportaAsLinhasAVistaNaOrdemEmQueEstao) {
     selecionar("1");
-    const auto& grade = *sessao->window().GradeEmVista();
-    const auto texto = [&](std::size_t posicao, const char* campo) {
-        return grade.Celula(posicao, grade.Coluna(campo)).Texto();
-    };
+    auto& painel = *janela->paneInView();
+    const auto& tabela = painel.table();
+    const auto todas = painel.lines().size();
+    painel.findChild<QLineEdit*>(QStringLiteral("FiltroNOMECONTA"))->setText(QStringLiteral("a"));
+    const auto& colunas = tabela.columns();
+    const auto ordem = std::find_if(colunas.begin(), colunas.end(),
+                                    [](const auto& coluna) { return coluna.shown->Campo == "CLASSIFCONTAB"; });
+    painel.sortBy(static_cast<int>(ordem - colunas.begin()), true, false);
+    ASSERT_GT(painel.lines().size(), 2U);
+    ASSERT_LT(painel.lines().size(), todas);
+    EXPECT_FALSE(std::is_sorted(painel.lines().begin(), painel.lines().end()));
     const auto arquivo = std::string(ORCREAL_PASTA_TESTE) + "/exportada-" + std::to_string(::getpid()) + ".csv";
-    const std::string titulo[] = {"Empresa"};
-    programa.exportGrid(grade, {4, 0, 2}, arquivo, titulo);
+    sessao->write(tabela, arquivo);
     std::ifstream entrada(arquivo);
     std::vector<std::string> linhas;
     for (std::string linha; std::getline(entrada, linha);)
         linhas.push_back(linha);
     std::filesystem::remove(arquivo);
-    ASSERT_EQ(4U, linhas.size()) << "titles and three rows";
-    EXPECT_NE(texto(4, "CLASSIFCONTAB"), texto(0, "CLASSIFCONTAB"));
-    for (const auto& [linha, posicao] : {std::pair{1U, 4U}, {2U, 0U}, {3U, 2U}})
-        EXPECT_NE(std::string::npos, linhas[linha].find(texto(posicao, "CLASSIFCONTAB") + ";")) << linhas[linha];
-    EXPECT_THROW(programa.exportGrid(grade, {0}, arquivo + ".nada", titulo), base::TFalha);
+    ASSERT_EQ(painel.lines().size() + 1, linhas.size()) << "titles and the rows in view";
+    for (std::size_t i = 0; i < painel.lines().size(); ++i)
+        EXPECT_TRUE(linhas[i + 1].starts_with(base::TextoDe(tabela.value(i, *ordem)) + ";")) << linhas[i + 1];
+    EXPECT_THROW(sessao->write(tabela, arquivo + ".nada"), base::TFalha);
 }
 
 TEST_F(JanelaDoModulo, ConexaoRefeitaSobAsMesmasFormasESelecaoFica) {

@@ -194,13 +194,13 @@ void janelas(const std::string& banco) {
     desktop::AsideConnection conexao(lado, programa.connect({banco, {}, {}}));
     desktop::DesktopInteraction interacao(lado, [&] { conexao.cancel(); });
     Usuario usuario(interacao);
-    const auto sessao = programa.login(conexao, usuario);
+    const auto sessao = programa.login({banco, {}, {}}, conexao, usuario);
     desktop::WindowServices servicos;
     servicos.company = sessao->texts().company;
     servicos.establishment = sessao->texts().establishment;
     servicos.user = sessao->texts().user;
     servicos.database = "demonstracao.fdb";
-    servicos.exportGrid = programa.exportGrid;
+    servicos.write = [&](const auto& tabela, const auto& arquivo) { sessao->write(tabela, arquivo); };
     servicos.formats = programa.formats;
     servicos.reconnect = [] {};
     servicos.confirmNextModal = [&](bool confirmar) { interacao.confirmNextModal(confirmar); };

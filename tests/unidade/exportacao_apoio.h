@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Falhas.h"
-#include "suite/export/GridExport.h"
+#include "suite/export/Exporter.h"
 
 #include <gtest/gtest.h>
 
@@ -67,59 +67,6 @@ inline std::string entre(const std::string& texto, const std::string& abre, cons
     return texto.substr(inicio + abre.size(), texto.find(fecha, inicio + abre.size()) - inicio - abre.size());
 }
 
-// The n-th element, from 0, of a list of them.
-inline std::string elemento(const std::string& lista, const std::string& abre, int n) {
-    auto inicio = lista.find(abre);
-    for (; n > 0 && inicio != std::string::npos; --n)
-        inicio = lista.find(abre, inicio + 1);
-    EXPECT_NE(std::string::npos, inicio) << abre;
-    return inicio == std::string::npos ? "" : lista.substr(inicio, lista.find(abre, inicio + 1) - inicio);
-}
-
-// A workbook as its cells are seen: "n 1234.5", "t Receita", "v" (blank); and the looks behind.
-class Planilha {
-  public:
-    explicit Planilha(const std::filesystem::path& arquivo)
-        : folha(parte(arquivo, "xl/worksheets/sheet1.xml")), estilos(parte(arquivo, "xl/styles.xml")) {}
-    std::string folha;
-    std::string estilos;
-
-    std::string celula(const std::string& lugar) const {
-        const auto xml = fonteDa(lugar);
-        if (xml.empty())
-            return "(falta)";
-        if (xml.find("t=\"inlineStr\"") != std::string::npos)
-            return "t " + entre(entre(xml, "<t", "</is>"), ">", "</t>");
-        return xml.find("<v>") == std::string::npos ? "v" : "n " + entre(xml, "<v>", "</v>");
-    }
-    // "negrito FF0000FF/FFD8E4F8 #,##0.00", a dash for what is not set.
-    std::string estilo(const std::string& lugar) const {
-        const auto xf = elemento(entre(estilos, "<cellXfs", "</cellXfs>"), "<xf ", valor(fonteDa(lugar), "s"));
-        const auto fonte = elemento(entre(estilos, "<fonts", "</fonts>"), "<font>", valor(xf, "fontId"));
-        const auto fundo = elemento(entre(estilos, "<fills", "</fills>"), "<fill>", valor(xf, "fillId"));
-        return (fonte.find("<b/>") == std::string::npos ? "- " : "negrito ") +
-               ouTraco(entre(fonte, "<color rgb=\"", "\"")) + "/" + ouTraco(entre(fundo, "<fgColor rgb=\"", "\"")) +
-               " " + formato(valor(xf, "numFmtId"));
-    }
-
-  private:
-    std::string fonteDa(const std::string& lugar) const {
-        const auto inicio = folha.find("<c r=\"" + lugar + "\"");
-        if (inicio == std::string::npos)
-            return "";
-        return folha.substr(inicio, std::min(folha.find("<c ", inicio + 1), folha.find("</row>", inicio)) - inicio);
-    }
-    static int valor(const std::string& xml, const std::string& nome) {
-        return std::stoi(entre(xml, " " + nome + "=\"", "\""));
-    }
-    static std::string ouTraco(const std::string& texto) { return texto.empty() ? "-" : texto; }
-    std::string formato(int codigo) const {
-        if (codigo == 0 || codigo == 1 || codigo == 4) // the three of the format's own list that stand here
-            return codigo == 0 ? "-" : codigo == 1 ? "0" : "#,##0.00";
-        return entre(estilos, "numFmtId=\"" + std::to_string(codigo) + "\" formatCode=\"", "\"");
-    }
-};
-
 class Exportacao : public testing::Test {
   protected:
     Exportacao() {
@@ -164,13 +111,13 @@ class Exportacao : public testing::Test {
 
     std::filesystem::path exportar(const std::string& nome) {
         cds.Open();
-        suite::exporting::exportGrid(grade, pasta / nome, titulo);
+        suite::exporting::Exporter().write(suite::table::Table(grade), pasta / nome, titulo);
         return pasta / nome;
     }
     std::string falha(const std::filesystem::path& arquivo) {
         cds.Open();
         try {
-            suite::exporting::exportGrid(grade, arquivo, titulo);
+            suite::exporting::Exporter().write(suite::table::Table(grade), arquivo, titulo);
         } catch (const base::TFalha& f) {
             return f.what();
         }
@@ -185,7 +132,9 @@ class Exportacao : public testing::Test {
 
     std::filesystem::path pasta =
         std::filesystem::path(ORCREAL_PASTA_TESTE) / ("exportacao" + std::to_string(::getpid()));
-    std::vector<std::string> titulo{"Orçado x realizado", "1 - Fábrica & Cia", "Período de 01/01/2024 a 31/12/2024"};
+    suite::exporting::Heading titulo{
+        {{"Consulta", "Orçado x realizado"}, {"Empresa", "1 - Fábrica & Cia"}, {"Período", "01/01/2024 a 31/12/2024"}},
+        {}};
     Conexao conexao;
     host::TZTSQLDataSet sds{"Sds"};
     host::TZTDataSetProvider dsp{"Dsp", sds};

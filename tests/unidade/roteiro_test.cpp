@@ -126,7 +126,10 @@ Resultado executar(const std::string& roteiro) {
     std::ostringstream saida;
     Resultado resultado;
     try {
-        suite::script::ScriptRunner execucao(entrada, saida, [] { return std::make_unique<Janela>(); });
+        const suite::exporting::Exporter exportador;
+        suite::script::ScriptRunner execucao(
+            entrada, saida, [] { return std::make_unique<Janela>(); },
+            {exportador, [] { return suite::exporting::Origin{}; }});
         execucao.run();
         if (execucao.toldFailure())
             std::rethrow_exception(execucao.toldFailure());
@@ -302,7 +305,7 @@ TEST(Roteiro, MostraGradeEModuloDeDados) {
         resultado.saida);
     const auto arquivo = testing::TempDir() + "roteiro-" + std::to_string(::getpid()) + ".csv";
     EXPECT_EQ("", executar("selecionar\nclicar actSair\nexportar " + arquivo + "\n").falha);
-    EXPECT_EQ("\xEF\xBB\xBFNome;Valor\nágua;1,50\n;-0,05\n", exportacao::conteudo(arquivo));
+    EXPECT_EQ("\xEF\xBB\xBFNome;Faixa Valor\n;-0,05\nágua;1,50\n", exportacao::conteudo(arquivo));
     std::filesystem::remove(arquivo);
     recusa("exportar " + arquivo + "\n", 2, "Linha 1: Nenhuma grade está à vista");
     recusa("selecionar\nclicar actSair\nexportar a.doc\n", 1, "Linha 3: Não é possível exportar para a.doc");

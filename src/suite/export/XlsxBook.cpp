@@ -18,52 +18,7 @@ lxw_color_t colorOf(host::TCor color) { return color == 0 ? lxw_color_t{LXW_COLO
 
 std::uint64_t bits(const std::optional<host::TCor>& color) { return color ? 1U << 24 | (*color & 0xFFFFFFU) : 0; }
 
-// What stands beside the digits; a quote for each sign that means something to a spreadsheet.
-std::string literal(std::string_view text) {
-    std::string quoted;
-    for (const char c : text) {
-        const bool follows = (static_cast<unsigned char>(c) & 0xC0U) == 0x80;
-        if (!follows && std::string_view("()-+ ").find(c) == std::string_view::npos)
-            quoted += '\\';
-        quoted += c;
-    }
-    return quoted;
-}
-
-std::string section(std::string_view format) {
-    constexpr const char* Digits = ",.0";
-    const auto first = std::min(format.find_first_of(Digits), format.size());
-    std::string before(format.substr(0, first));
-    std::string after;
-    std::size_t whole = 0;
-    std::size_t places = 0;
-    bool point = false;
-    for (const char c : format.substr(first)) {
-        if (c == '0')
-            ++(point ? places : whole);
-        else if (c == '.')
-            point = true;
-        else if (c != ',')
-            after += c;
-    }
-    std::string digits(std::max<std::size_t>(whole, 1), '0');
-    if (format.find(',') != std::string_view::npos) {
-        digits.insert(0, 4 - std::min<std::size_t>(digits.size(), 4), '#');
-        for (auto i = digits.size(); i > 3; i -= 3)
-            digits.insert(i - 3, 1, ',');
-    }
-    if (places > 0)
-        digits += "." + std::string(places, '0');
-    return literal(before) + digits + literal(after);
-}
-
 } // namespace
-
-std::string spreadsheetFormat(std::string_view format) {
-    const auto divide = format.find(';');
-    const auto positive = section(format.substr(0, divide));
-    return divide >= format.size() - 1 ? positive : positive + ";" + section(format.substr(divide + 1));
-}
 
 PlainNumbers::PlainNumbers() : plain_(newlocale(LC_ALL_MASK, "C", nullptr)), before_(uselocale(plain_)) {}
 
@@ -72,23 +27,28 @@ PlainNumbers::~PlainNumbers() {
     freelocale(plain_);
 }
 
-XlsxBook::XlsxBook(const std::filesystem::path& file, const char* sheet)
+XlsxBook::XlsxBook(const std::filesystem::path& file)
     : file_(file), folder_(std::filesystem::absolute(file).parent_path().string()) {
     // Temporary files lie beside the target: where it has room, they have.
     lxw_workbook_options options{LXW_TRUE, folder_.data(), LXW_FALSE};
     book_ = workbook_new_opt(file.c_str(), &options);
-    sheet_ = book_ ? workbook_add_worksheet(book_, sheet) : nullptr;
-    if (!sheet_) {
-        lxw_workbook_free(book_);
+    if (!book_)
         fail("workbook");
-    }
 }
 
 XlsxBook::~XlsxBook() {
     if (!book_)
         return;
-    std::fclose(sheet_->optimize_tmpfile);
+    for (auto* sheet : sheets_)
+        std::fclose(sheet->optimize_tmpfile);
     lxw_workbook_free(book_);
+}
+
+lxw_worksheet* XlsxBook::addSheet(const char* name) {
+    auto* sheet = workbook_add_worksheet(book_, name);
+    if (!sheet)
+        fail("worksheet");
+    return sheets_.emplace_back(sheet);
 }
 
 lxw_format* XlsxBook::newFormat() {
@@ -132,10 +92,14 @@ lxw_format* XlsxBook::format(const host::TAparencia& look, std::size_t numbers) 
     return format;
 }
 
-void XlsxBook::setTitle(const std::string& title) {
+void XlsxBook::describe(const std::string& title, base::TDataHora made) {
+    // An absent time would be that of the machine. An archive counts from 1980.
+    const auto since = [](base::TDataHora time) { return time.Decimos() / (base::TDataHora::DecimosPorDia / 86'400); };
+    static const auto First = *base::TDataHora::De(1980, 1, 1);
     lxw_doc_properties properties{};
     std::string copy = title;
     properties.title = copy.data();
+    properties.created = since(std::max(made, First)) - since(*base::TDataHora::De(1970, 1, 1));
     check(workbook_set_properties(book_, &properties));
 }
 
@@ -150,13 +114,17 @@ void XlsxBook::check(lxw_error error) const {
 void XlsxBook::close() {
     // The library does not look whether its temporary files took all it wrote, so we do: the rows here, what it makes
     // of them in the archive.
-    lxw_worksheet_write_single_row(sheet_);
-    auto* rows = sheet_->optimize_tmpfile;
-    if (std::fflush(rows) != 0 || std::ferror(rows))
-        fail("rows");
-    const auto bytes = std::ftell(rows);
+    std::vector<std::uint64_t> bytes;
+    for (auto* sheet : sheets_) {
+        lxw_worksheet_write_single_row(sheet);
+        auto* rows = sheet->optimize_tmpfile;
+        const auto end = std::fflush(rows) == 0 && !std::ferror(rows) ? std::ftell(rows) : -1;
+        if (end < 0)
+            fail("rows");
+        bytes.push_back(static_cast<std::uint64_t>(end));
+    }
     check(workbook_close(std::exchange(book_, nullptr)));
-    if (bytes < 0 || !isWholeXlsx(file_, static_cast<std::uint64_t>(bytes)))
+    if (!isWholeXlsx(file_, bytes))
         fail("archive");
 }
 

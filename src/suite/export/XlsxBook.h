@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/FormatoNumerico.h"
 #include "host/Grade.h"
 
 #include <filesystem>
@@ -24,21 +25,21 @@ class PlainNumbers {
     locale_t before_;
 };
 
-// A workbook of one sheet, whose rows go to a temporary file as they come: they must come in order, and hardly take
-// memory. Unless closed, it leaves nothing. Failures to write are a std::system_error.
+// A workbook, whose rows go to a temporary file a sheet as they come: they must come in order, and hardly take memory.
+// Unless closed, it leaves nothing. Failures to write are a std::system_error.
 class XlsxBook {
   public:
-    XlsxBook(const std::filesystem::path& file, const char* sheet);
+    explicit XlsxBook(const std::filesystem::path& file);
     ~XlsxBook();
     XlsxBook(const XlsxBook&) = delete;
     XlsxBook& operator=(const XlsxBook&) = delete;
 
-    lxw_worksheet* sheet() const { return sheet_; }
+    lxw_worksheet* addSheet(const char* name);
     // A cell's format, made at first use: a look and a number format of the spreadsheet (empty: general).
     lxw_format* format(const host::TAparencia& look, std::size_t numbers);
     std::size_t numberFormat(const std::string& format);
     lxw_format* newFormat();
-    void setTitle(const std::string& title);
+    void describe(const std::string& title, base::TDataHora made);
     // For every result of the library.
     void check(lxw_error error) const;
     void close();
@@ -48,15 +49,12 @@ class XlsxBook {
     std::filesystem::path file_;
     std::string folder_; // the library keeps the pointer
     lxw_workbook* book_ = nullptr;
-    lxw_worksheet* sheet_ = nullptr;
+    std::vector<lxw_worksheet*> sheets_;
     std::vector<std::string> numberFormats_;
     std::map<std::uint64_t, lxw_format*> formats_;
 };
 
-// The spreadsheet's own notation for a number format of the host: "#,##0.00" for ",0.00".
-std::string spreadsheetFormat(std::string_view format);
-
-// Whether an archive holds all its parts to their last tag, and one of at least that many bytes.
-bool isWholeXlsx(const std::filesystem::path& file, std::uint64_t bytes);
+// Whether an archive holds all its parts to their last tag, and the sheets in order at least that many bytes each.
+bool isWholeXlsx(const std::filesystem::path& file, const std::vector<std::uint64_t>& sheets);
 
 } // namespace suite::exporting

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
+#include <map>
 #include <zlib.h>
 
 namespace suite::exporting {
@@ -11,6 +12,7 @@ namespace {
 
 // The local header of a part, its sizes included, as the library writes it.
 struct Part {
+    std::string name;
     std::uint32_t packed;
     std::uint32_t bytes;
 };
@@ -28,8 +30,9 @@ bool nextPart(std::istream& in, Part& part) {
     std::array<char, 30> header{};
     if (!in.read(header.data(), header.size()) || number(header.data(), 4) != Signature)
         return false;
-    part = {number(&header[18], 4), number(&header[22], 4)};
-    in.seekg(number(&header[26], 2) + number(&header[28], 2), std::ios::cur);
+    part = {std::string(number(&header[26], 2), '\0'), number(&header[18], 4), number(&header[22], 4)};
+    in.read(part.name.data(), static_cast<std::streamsize>(part.name.size()));
+    in.seekg(number(&header[28], 2), std::ios::cur);
     return true;
 }
 
@@ -87,13 +90,18 @@ class PartReader {
 
 } // namespace
 
-bool isWholeXlsx(const std::filesystem::path& file, std::uint64_t bytes) {
+bool isWholeXlsx(const std::filesystem::path& file, const std::vector<std::uint64_t>& sheets) {
     std::ifstream in(file, std::ios::binary);
-    std::uint64_t largest = 0;
-    for (Part part{}; nextPart(in, part); largest = std::max<std::uint64_t>(largest, part.bytes))
+    std::map<std::string, std::uint64_t> sizes;
+    for (Part part{}; nextPart(in, part); sizes[part.name] = part.bytes)
         if (!PartReader().isWhole(in, part))
             return false;
-    return largest > 0 && largest >= bytes;
+    for (std::size_t i = 0; i < sheets.size(); ++i) {
+        const auto sheet = sizes.find("xl/worksheets/sheet" + std::to_string(i + 1) + ".xml");
+        if (sheet == sizes.end() || sheet->second < sheets[i])
+            return false;
+    }
+    return true;
 }
 
 } // namespace suite::exporting

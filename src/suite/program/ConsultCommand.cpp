@@ -4,13 +4,10 @@
 #include "base/Falhas.h"
 #include "base/Texto.h"
 #include "host/Grade.h"
-#include "host/Lookup.h"
-#include "host/Registro.h"
-#include "suite/export/GridExport.h"
-#include "suite/export/Rows.h"
+#include "suite/export/Formats.h"
 #include "suite/program/FillSelection.h"
-#include "suite/program/TableColumns.h"
-#include "suite/terminal/TableRows.h"
+#include "suite/program/Session.h"
+#include "suite/terminal/TableText.h"
 
 #include <filesystem>
 #include <fstream>
@@ -32,47 +29,40 @@ std::size_t tableWidth(bool terminal) {
     return DefaultWidth;
 }
 
-std::string itemOf(const host::TForm& dialog, const char* combo) {
-    const auto& control = dynamic_cast<const host::TZTComboBox&>(dialog.Controle(combo));
-    return base::Trim(control.Itens()[static_cast<std::size_t>(control.ItemIndex())]);
-}
+struct Result {
+    const table::Table& table;
+    exporting::Heading heading;
+};
 
-std::vector<std::string> heading(const host::TForm& dialog, const ConsultOptions& options, const Login& login) {
-    std::string what = "por conta";
-    if (options.view == "demonstracao") {
-        const auto& statement = dynamic_cast<const host::TZTLookupEx&>(dialog.Controle("LkpRelatorioDemonstConfig"));
-        what = "- " + statement.Codigo() + " - " + statement.Texto();
-    }
-    return {"Orçado x realizado " + what + ": " + itemOf(dialog, "CbDetalharSelecao"),
-            std::to_string(login.company().Codigo) + " - " + login.company().Nome,
-            "Período de " + options.from + " a " + options.to + ", cenário " + itemOf(dialog, "CbCenario")};
-}
-
-void writeTable(std::ostream& out, const host::TGrade& grid, const std::vector<std::string>& title, bool terminal) {
-    for (const auto& line : title)
-        out << base::SemControles(line) << '\n';
+void writeTable(std::ostream& out, const Result& result, bool terminal) {
+    out << base::SemControles(result.heading.title()) << '\n';
+    for (std::size_t i = 1; i < result.heading.criteria.size(); ++i)
+        out << base::SemControles(result.heading.criteria[i].Nome + ": " + result.heading.criteria[i].Valor) << '\n';
     out << '\n';
-    terminal::writeTable(out, *grid.DataSet(), tableColumns(grid), tableWidth(terminal), terminal);
+    terminal::writeTable(out, result.table, tableWidth(terminal), terminal);
 }
 
-void writeFile(const host::TGrade& grid, const ConsultOptions& options, const std::vector<std::string>& title) {
+void writeFile(const Result& result, const ConsultOptions& options, const exporting::Exporter& exporter) {
     if (options.format != "tabela")
-        return exporting::exportGrid(grid, options.output, "." + options.format, title);
+        return exporter.write(result.table, options.output, "." + options.format, result.heading);
     base::GravarArquivoInteiro(options.output, [&](const std::filesystem::path& file) {
         std::ofstream out(file, std::ios::binary);
         out.exceptions(std::ios::failbit | std::ios::badbit);
-        writeTable(out, grid, title, false);
+        writeTable(out, result, false);
         out.close();
     });
 }
 
-void writeOutput(const host::TGrade& grid, const ConsultOptions& options, const std::vector<std::string>& title) {
-    if (options.format == "json")
-        exporting::writeJson(std::cout, *grid.DataSet());
-    else if (options.format == "csv")
-        exporting::writeCsv(std::cout, *grid.DataSet(), exporting::flatColumns(grid));
-    else
-        writeTable(std::cout, grid, title, ::isatty(STDOUT_FILENO) != 0);
+void writeOutput(const Result& result, const ConsultOptions& options) {
+    if (options.format == "json") {
+        exporting::writeJson(std::cout, result.table, result.heading);
+    } else if (options.format == "csv") {
+        if (options.criteria)
+            exporting::writeCsvHeading(std::cout, result.heading);
+        exporting::writeCsv(std::cout, result.table);
+    } else {
+        writeTable(std::cout, result, ::isatty(STDOUT_FILENO) != 0);
+    }
     std::cout.flush();
     if (!std::cout)
         throw base::TFalha("Não foi possível escrever o resultado na saída.");
@@ -99,41 +89,37 @@ terminal::Headless::Answer answer(const host::TMensagem& question, const Consult
     return {};
 }
 
-// That of the dataset which the commit has opened; null when the rules have declined it.
+// That of the dataset which the commit has opened, in view or not; null when the rules have declined it.
 const host::TGrade* resultGrid(const host::TForm& window) {
-    for (const char* name : {"DbgCtbOrcada", "DbgMostraCtbOrcMensal"}) {
-        const auto& grid = dynamic_cast<const host::TGrade&>(window.Controle(name));
-        if (grid.DataSet()->Active())
-            return &grid;
-    }
+    for (const auto* control : window.Controles())
+        if (const auto* grid = dynamic_cast<const host::TGrade*>(control); grid && grid->DataSet()->Active())
+            return grid;
     return nullptr;
 }
 
 } // namespace
 
-ExitCode runConsult(const ConsultOptions& options, const Login& login, terminal::Headless& interaction) {
+ExitCode runConsult(const ConsultOptions& options, const exporting::Output& output, terminal::Headless& interaction) {
     const bool book = options.format == "xlsx" || options.format == "html";
     if (book && options.output.empty())
         throw base::TFalha("O formato " + options.format + " pede um arquivo: use também --saida.");
-    const auto factory = host::FindClass("TForm04618");
-    if (!factory)
-        throw base::TFalha("O módulo carregado não tem a janela de consulta.");
-    const auto window = factory();
+    if (options.criteria && options.format != "csv")
+        throw base::TFalha("A opção --criterios é do formato csv; os outros dizem os critérios por si.");
+    const auto window = Session::makeWindow();
     window->InitializeForm();
-    std::vector<std::string> title;
-    interaction.onModal = [&](host::TFormZTTandorPadraoResult& form) {
-        fillSelection(form, options, interaction);
-        title = heading(form, options, login);
-    };
+    interaction.onModal = [&](host::TFormZTTandorPadraoResult& form) { fillSelection(form, options, interaction); };
     interaction.onQuestion = [&](const host::TMensagem& question) { return answer(question, options); };
     window->Executar(window->Acao("ActSelecionar"));
     const auto* grid = resultGrid(*window);
     if (!grid)
         return interaction.failure() ? exitCodeOf(*interaction.failure()) : ExitCode::Refused; // it has been said why
+    const table::Table table(*grid);
+    Result result{table, exporting::headingOf(*window, table, output.origin())};
+    result.heading.inCsv = options.criteria;
     if (options.output.empty())
-        writeOutput(*grid, options, title);
+        writeOutput(result, options);
     else
-        writeFile(*grid, options, title);
+        writeFile(result, options, output.exporter);
     return ExitCode::Done;
 }
 

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "suite/export/Exporter.h"
 #include "suite/program/ExitCode.h"
-#include "suite/program/Login.h"
 #include "suite/program/Options.h"
 #include "suite/terminal/Headless.h"
 
 namespace suite::program {
 
 // One consultation, driven through the module's window as a user would drive it.
-ExitCode runConsult(const ConsultOptions& options, const Login& login, terminal::Headless& interaction);
+ExitCode runConsult(const ConsultOptions& options, const exporting::Output& output, terminal::Headless& interaction);
 
 } // namespace suite::program

@@ -5,12 +5,10 @@
 #include "demo/Demo.h"
 #include "host/DbManager.h"
 #include "host/Lookup.h"
-#include "host/Registro.h"
-#include "host/Servicos.h"
-#include "suite/export/GridExport.h"
 #include "suite/firebird/Connection.h"
-#include "suite/program/LayoutStore.h"
 #include "suite/program/Module.h"
+#include "suite/program/Outputs.h"
+#include "suite/program/Session.h"
 #include "suite/program/UserFolder.h"
 
 namespace suite::program {
@@ -32,39 +30,28 @@ std::string codeAndName(const char* table, const char* key, const char* code, st
     return rows->FieldByName("CODIGO").AsString() + " - " + rows->FieldByName("NOME").AsString();
 }
 
-class Session final : public desktop::DesktopSession {
+class LoggedIn final : public desktop::DesktopSession {
   public:
-    Session(const LoginRequest& request, host::TZTConnection& connection, host::TInteracao& interaction)
-        : layouts_(layoutFolder) {
-        host::TServicos services;
-        services.Conexao = &connection;
-        services.Interacao = &interaction;
-        connected_.emplace(services);
-        login_.emplace(request);
-        services.EmpresaLogada = &*login_;
-        services.Contabil = &*login_;
-        services.Sistema = &*login_;
-        services.Leiautes = &layouts_;
-        loggedIn_.emplace(services);
-        const auto factory = host::FindClass("TForm04618");
-        if (!factory)
-            throw base::TFalha("O módulo carregado não tem a janela de consulta.");
-        window_ = factory();
+    LoggedIn(const LoginRequest& request, std::string database, host::TZTConnection& connection,
+             host::TInteracao& interaction)
+        : session_(request, connection, interaction), database_(std::move(database)), window_(Session::makeWindow()) {
         window_->InitializeForm();
     }
     host::TFormZTTandorPadraoSelecao& window() override { return *window_; }
     Texts texts() const override {
-        const auto& company = login_->company();
+        const auto& login = session_.login();
+        const auto& company = login.company();
         return {std::to_string(company.Codigo) + " - " + company.Nome,
-                codeAndName("SC00_FILIAL", "IDFILIAL", "FILIAL", login_->GetIDFilialLogada()),
-                codeAndName("US09_USUARIO", "IDUSUARIO", "CODIGO", login_->GetIDUsuarioLogado())};
+                codeAndName("SC00_FILIAL", "IDFILIAL", "FILIAL", login.GetIDFilialLogada()),
+                codeAndName("US09_USUARIO", "IDUSUARIO", "CODIGO", login.GetIDUsuarioLogado())};
+    }
+    void write(const table::Table& table, const std::string& file) override {
+        exporter().write(table, file, exporting::headingOf(*window_, table, originNow(database_)));
     }
 
   private:
-    LayoutStore layouts_;
-    std::optional<host::TInstalacaoServicos> connected_;
-    std::optional<Login> login_;
-    std::optional<host::TInstalacaoServicos> loggedIn_;
+    Session session_;
+    std::string database_;
     std::unique_ptr<host::TFormZTTandorPadraoSelecao> window_;
 };
 
@@ -86,25 +73,6 @@ desktop::AsideConnection::Inner connect(const DatabaseRequest& request) {
             [connection] { connection->attachment().clearPendingCancel(); }};
 }
 
-// The writers know the rows of a dataset in its own order: other rows, or another order, are a copy.
-void exportLines(const host::TGrade& grid, const std::vector<std::uint32_t>& lines, const std::string& file,
-                 std::span<const std::string> title) {
-    const auto& all = *grid.DataSet();
-    std::vector<std::size_t> rows;
-    for (const auto line : lines)
-        rows.push_back(all.LinhaDe(line));
-    host::TDataSetEscolhido chosen(all.Nome());
-    chosen.Carregar(all, std::move(rows));
-    for (const auto& field : all.Fields())
-        chosen.FieldByName(field.Nome()).FormatoExibicao = field.FormatoExibicao;
-    host::TDataSource source("");
-    source.DataSet = &chosen;
-    host::TGrade copy(grid.Nome(), source);
-    copy.SetColunas(grid.Colunas());
-    copy.RegraDaCelula = grid.RegraDaCelula;
-    exporting::exportGrid(copy, file, title);
-}
-
 } // namespace
 
 desktop::DesktopProgram desktopProgram(const Options& options, const std::string& version) {
@@ -119,12 +87,14 @@ desktop::DesktopProgram desktopProgram(const Options& options, const std::string
         demo::Criar({file, 1, progress});
     };
     program.connect = connect;
-    program.login = [request = options.login](host::TZTConnection& connection, host::TInteracao& interaction) {
-        return std::make_unique<Session>(request, connection, interaction);
+    program.login = [login = options.login](const DatabaseRequest& request, host::TZTConnection& connection,
+                                            host::TInteracao& interaction) {
+        return std::make_unique<LoggedIn>(login, request.target, connection, interaction);
     };
-    program.exportGrid = exportLines;
-    program.formats = {
-        {".xlsx", "&Planilha (.xlsx)"}, {".csv", "&Texto separado (.csv)"}, {".html", "Página (.&html)"}};
+    program.formats = {{".xlsx", "&Planilha (.xlsx)"},
+                       {".csv", "&Texto separado (.csv)"},
+                       {".html", "Página (.&html)"},
+                       {".pdf", "&Documento (.pdf)"}};
     return program;
 }
 

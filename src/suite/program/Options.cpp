@@ -93,6 +93,7 @@ void addConsultOptions(CLI::App& command, ConsultOptions& options) {
         ->check(oneOf({"selecionado", "todos"}));
     add("--formato", options.format, "tabela (padrão), csv, json, xlsx ou html", "T")
         ->check(oneOf({"tabela", "csv", "json", "xlsx", "html"}));
+    flag("--criterios", options.criteria, "escreve no csv, antes das linhas, o que foi pedido");
     add("--saida", options.output, "grava o resultado no arquivo F", "F")->check(notEmpty());
 }
 

@@ -31,7 +31,8 @@ struct ConsultOptions {
     std::string totals;       // the answer where totals exist: consultar or reatualizar
     std::string dependencies; // the answer where a statement depends on others: selecionado or todos
     std::string format = "tabela";
-    std::string output; // a file; empty for standard output
+    bool criteria = false; // before the rows of a csv
+    std::string output;    // a file; empty for standard output
 };
 
 struct DemoOptions {

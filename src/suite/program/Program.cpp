@@ -3,15 +3,15 @@
 #include "base/Falhas.h"
 #include "base/Texto.h"
 #include "demo/Demo.h"
-#include "host/Servicos.h"
 #include "suite/firebird/Connection.h"
 #include "suite/program/ConsultCommand.h"
 #include "suite/program/DesktopCommand.h"
 #include "suite/program/Interrupt.h"
-#include "suite/program/LayoutStore.h"
 #include "suite/program/Module.h"
 #include "suite/program/Options.h"
+#include "suite/program/Outputs.h"
 #include "suite/program/ScriptCommand.h"
+#include "suite/program/Session.h"
 #include "suite/program/UserFolder.h"
 #include "suite/program/VerifyCommand.h"
 #include "suite/terminal/Headless.h"
@@ -80,22 +80,13 @@ ExitCode runOnDatabase(const Options& options, Interrupt& interrupt) {
 
     terminal::Headless interaction(std::cerr, onTerminal());
     interaction.onCancelQuery = [&] { return interrupt.requested(); };
-    host::TServicos services;
-    services.Conexao = &connection;
-    services.Interacao = &interaction;
-    const host::TInstalacaoServicos connected(services);
-    Login login(options.login);
-    services.EmpresaLogada = &login;
-    services.Contabil = &login;
-    services.Sistema = &login;
-    LayoutStore layouts(layoutFolder);
-    if (options.script) // a single consultation chooses no layout
-        services.Leiautes = &layouts;
-    const host::TInstalacaoServicos loggedIn(services);
+    const Session session(options.login, connection, interaction,
+                          options.consult ? Session::Layouts::None : Session::Layouts::OfUser);
     const Module module(moduleFile());
     const auto stop = [&] { return interrupt.requested(); };
-    const auto code =
-        options.script ? runScript(*options.script, stop) : runConsult(*options.consult, login, interaction);
+    const auto origin = [&] { return originNow(target.text()); };
+    const auto code = options.script ? runScript(*options.script, {exporter(), origin}, stop)
+                                     : runConsult(*options.consult, {exporter(), origin}, interaction);
     return code != ExitCode::Done && interrupt.requested() ? ExitCode::Cancelled : code;
 }
 

@@ -2,7 +2,7 @@
 
 #include "base/Falhas.h"
 #include "base/Texto.h"
-#include "host/Registro.h"
+#include "suite/program/Session.h"
 #include "suite/script/ScriptRunner.h"
 
 #include <fstream>
@@ -13,8 +13,8 @@ namespace suite::program {
 namespace {
 
 // A failure that was told of outranks what the steps behind it ran into.
-ExitCode play(std::istream& script, const host::TFabricaDeForm& window, const std::function<bool()>& cancelled) {
-    script::ScriptRunner runner(script, std::cout, window, cancelled);
+ExitCode play(std::istream& script, const exporting::Output& output, const std::function<bool()>& cancelled) {
+    script::ScriptRunner runner(script, std::cout, Session::makeWindow, output, cancelled);
     auto code = ExitCode::Done;
     try {
         runner.run();
@@ -32,14 +32,12 @@ ExitCode play(std::istream& script, const host::TFabricaDeForm& window, const st
 
 } // namespace
 
-ExitCode runScript(const ScriptOptions& options, const std::function<bool()>& cancelled) {
-    const auto window = host::FindClass("TForm04618");
-    if (!window)
-        throw base::TFalha("O módulo carregado não tem a janela de consulta.");
+ExitCode runScript(const ScriptOptions& options, const exporting::Output& output,
+                   const std::function<bool()>& cancelled) {
     if (options.file == "-")
-        return play(std::cin, window, cancelled);
+        return play(std::cin, output, cancelled);
     std::ifstream file(options.file);
-    return play(file, window, cancelled);
+    return play(file, output, cancelled);
 }
 
 } // namespace suite::program

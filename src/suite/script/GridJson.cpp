@@ -14,11 +14,6 @@ std::string colour(const std::optional<host::TCor>& value) {
     return text;
 }
 
-std::string formatOf(const host::TGrade& grid, const host::TColunaGrade& column) {
-    const auto* field = grid.DataSet() ? grid.DataSet()->FindField(column.Campo) : nullptr;
-    return column.Formato.empty() && field ? field->FormatoExibicao : column.Formato;
-}
-
 } // namespace
 
 std::string describeColumns(const host::TGrade& grid) {
@@ -29,7 +24,7 @@ std::string describeColumns(const host::TGrade& grid) {
             .add("titulo", exporting::quoteJson(column.Titulo))
             .add("faixa", exporting::jsonTextOrNull(column.Faixa))
             .add("visivel", exporting::jsonFlag(column.Visivel))
-            .add("formato", exporting::jsonTextOrNull(formatOf(grid, column)))
+            .add("formato", exporting::jsonTextOrNull(grid.FormatoDe(column)))
             .add("grupo", column.Grupo < 0 ? "null" : std::to_string(column.Grupo));
         columns.push_back(members.text());
     }

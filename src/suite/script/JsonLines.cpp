@@ -1,6 +1,6 @@
 #include "suite/script/JsonLines.h"
 
-#include "suite/export/Rows.h"
+#include "suite/export/Formats.h"
 
 namespace suite::script {
 

@@ -18,9 +18,9 @@ host::TServicos servicesWith(host::TInteracao& interaction) {
 } // namespace
 
 ScriptRunner::ScriptRunner(std::istream& script, std::ostream& out, host::TFabricaDeForm window,
-                           std::function<bool()> cancelled)
+                           exporting::Output output, std::function<bool()> cancelled)
     : out_(out), reader_(script), interaction_(out_, std::move(cancelled)), installed_(servicesWith(interaction_)),
-      factory_(std::move(window)) {
+      factory_(std::move(window)), output_(std::move(output)) {
     interaction_.onModal = [this](host::TFormZTTandorPadraoResult& form) { showModal(form); };
     interaction_.onSearch = [this](host::TZTLookupEx& lookup) { answerSearch(lookup); };
 }

@@ -2,6 +2,7 @@
 
 #include "host/Registro.h"
 #include "host/Servicos.h"
+#include "suite/export/Exporter.h"
 #include "suite/script/FormDriver.h"
 #include "suite/script/JsonLines.h"
 #include "suite/script/ScriptInteraction.h"
@@ -20,7 +21,8 @@ class ScriptRunner {
   public:
     // Takes the place of the interaction among the current services for as long as it lives. Once cancelled answers
     // true, progress dialogs are cancelled and no further step begins.
-    ScriptRunner(std::istream& script, std::ostream& out, host::TFabricaDeForm window,
+    // The exporter outlives the runner.
+    ScriptRunner(std::istream& script, std::ostream& out, host::TFabricaDeForm window, exporting::Output output,
                  std::function<bool()> cancelled = {});
     ScriptRunner(const ScriptRunner&) = delete;
     ScriptRunner& operator=(const ScriptRunner&) = delete;
@@ -69,6 +71,7 @@ class ScriptRunner {
     ScriptInteraction interaction_;
     host::TInstalacaoServicos installed_;
     host::TFabricaDeForm factory_;
+    exporting::Output output_;
     std::unique_ptr<host::TFormZTTandorPadraoSelecao> window_;
     std::vector<host::TForm*> forms_; // the window and the dialogs open over it
     std::exception_ptr failure_;      // of the step that ended the script

@@ -1,4 +1,3 @@
-#include "suite/export/GridExport.h"
 #include "suite/script/ScriptRunner.h"
 #include "suite/script/Show.h"
 
@@ -67,10 +66,8 @@ void ScriptRunner::exportView(const Words& words) {
     const auto* grid = window_->GradeEmVista();
     if (!grid)
         throw WrongUse("Nenhuma grade está à vista para exportar.");
-    std::vector<std::string> title{window_->Titulo()};
-    if (auto text = titleInView(*window_); !text.empty())
-        title.push_back(std::move(text));
-    exporting::exportGrid(*grid, words.front(), title);
+    const table::Table table(*grid);
+    output_.exporter.write(table, words.front(), exporting::headingOf(*window_, table, output_.origin()));
 }
 
 void ScriptRunner::showSubject(const Words& words) { show(out_, {*window_, front()}, words.front()); }

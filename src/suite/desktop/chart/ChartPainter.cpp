@@ -14,6 +14,9 @@ namespace suite::desktop {
 
 namespace {
 
+using table::ChartData;
+using table::ChartKind;
+
 constexpr double Space = 8;
 constexpr int ShortName = 3; // of a month, where the names do not fit
 
@@ -63,8 +66,8 @@ class Chart {
         font.setBold(true);
         painter_.setFont(font);
         painter_.setPen(text());
-        const auto box = painter_.boundingRect(area_, Qt::AlignHCenter | Qt::TextWordWrap, data_.title);
-        painter_.drawText(area_, Qt::AlignHCenter | Qt::TextWordWrap, data_.title);
+        const auto box = painter_.boundingRect(area_, Qt::AlignHCenter | Qt::TextWordWrap, fromUtf8(data_.title));
+        painter_.drawText(area_, Qt::AlignHCenter | Qt::TextWordWrap, fromUtf8(data_.title));
         painter_.restore();
         area_.setTop(box.bottom() + Space);
     }
@@ -86,7 +89,7 @@ class Chart {
         double left = area_.left();
         const double side = metrics_.ascent();
         for (const auto kind : kinds) {
-            const auto caption = captionOf(kind);
+            const auto caption = fromUtf8(table::captionOf(kind));
             const double width = side + Space / 2 + metrics_.horizontalAdvance(caption);
             if (left > area_.left() && left + width > area_.right()) {
                 left = area_.left();
@@ -131,7 +134,7 @@ class Chart {
         }
         const double width = plot.width() / static_cast<double>(data_.categories.size());
         const bool roomy = std::all_of(data_.categories.begin(), data_.categories.end(), [&](const auto& category) {
-            return metrics_.horizontalAdvance(category.name) + 2 <= width;
+            return metrics_.horizontalAdvance(fromUtf8(category.name)) + 2 <= width;
         });
         double left = plot.left();
         for (const auto& category : data_.categories) {
@@ -145,7 +148,7 @@ class Chart {
             }
             painter_.setPen(text());
             painter_.drawText(QRectF(left, plot.bottom() + Space / 2, width, lineHeight()), Qt::AlignCenter,
-                              roomy ? category.name : category.name.left(ShortName));
+                              roomy ? fromUtf8(category.name) : fromUtf8(category.name).left(ShortName));
             left += width;
         }
     }
@@ -161,8 +164,9 @@ class Chart {
             const auto figure = fromUtf8(host::TextoExibido(*value.value, ",0.00"));
             const double figureWidth = metrics_.horizontalAdvance(figure);
             painter_.drawText(QRectF(area_.left(), top, area_.width(), lineHeight()), Qt::AlignRight, figure);
-            painter_.drawText(QRectF(area_.left(), top, area_.width(), lineHeight()), Qt::AlignLeft,
-                              metrics_.elidedText(category.name, Qt::ElideRight, area_.width() - figureWidth - Space));
+            painter_.drawText(
+                QRectF(area_.left(), top, area_.width(), lineHeight()), Qt::AlignLeft,
+                metrics_.elidedText(fromUtf8(category.name), Qt::ElideRight, area_.width() - figureWidth - Space));
             const double length = std::abs(sizeOf(*value.value)) / largest * area_.width();
             paintBar({area_.left(), top + lineHeight(), length, std::max(3.0, height - lineHeight() - Space)},
                      value.kind);

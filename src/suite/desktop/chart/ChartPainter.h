@@ -1,6 +1,6 @@
 #pragma once
 
-#include "suite/desktop/chart/ChartData.h"
+#include "suite/table/Chart.h"
 
 #include <QPalette>
 #include <QRectF>
@@ -11,7 +11,7 @@ namespace suite::desktop {
 
 // Paints the chart into the area, in the painter's font and the colours of the palette: the same for screen, picture
 // and paper.
-void paintChart(QPainter& painter, const QRectF& area, const ChartData& data, const QPalette& palette);
+void paintChart(QPainter& painter, const QRectF& area, const table::ChartData& data, const QPalette& palette);
 
 // Round marks of an axis that holds zero and both ends.
 struct Axis {

@@ -67,6 +67,8 @@ ChartPane::ChartPane(QWidget* parent)
 }
 
 void ChartPane::setPane(GridPane* pane) {
+    if (pane == pane_)
+        return;
     if (pane_)
         pane_->disconnect(this);
     pane_ = pane;
@@ -78,9 +80,9 @@ void ChartPane::setPane(GridPane* pane) {
 }
 
 void ChartPane::update() {
-    data_ = pane_ ? chartOf(pane_->grid(), pane_->lines(), pane_->currentLine())
-                  : ChartData{"Não há linhas para o gráfico.", {}, false};
-    canvas_->setAccessibleDescription(data_.title);
+    data_ = pane_ ? table::chartOf(pane_->table(), pane_->currentLine())
+                  : table::ChartData{"Não há linhas para o gráfico.", {}, false};
+    canvas_->setAccessibleDescription(fromUtf8(data_.title));
     save_->setEnabled(!data_.categories.empty());
     copy_->setEnabled(save_->isEnabled());
     canvas_->update();

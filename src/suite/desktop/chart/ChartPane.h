@@ -1,6 +1,6 @@
 #pragma once
 
-#include "suite/desktop/chart/ChartData.h"
+#include "suite/table/Chart.h"
 
 #include <QWidget>
 
@@ -19,7 +19,7 @@ class ChartPane : public QWidget {
 
     // The pane must outlive the chart or another must take its place first. Null: nothing to show.
     void setPane(GridPane* pane);
-    const ChartData& data() const { return data_; }
+    const table::ChartData& data() const { return data_; }
     // As a picture file by its ending (.png, .pdf). Throws base::TFalha.
     void save(const QString& file) const;
     QSize sizeHint() const override { return {420, 360}; }
@@ -36,7 +36,7 @@ class ChartPane : public QWidget {
     bool writePdf(const QString& file) const;
 
     GridPane* pane_ = nullptr;
-    ChartData data_;
+    table::ChartData data_;
     QWidget* canvas_;
     QPushButton* save_;
     QPushButton* copy_;

@@ -40,32 +40,33 @@ void BandHeader::setCovered(int width) {
     viewport()->update();
 }
 
-bool BandHeader::hasBands() const {
-    for (int i = 0; i < grid_.columnCount(); ++i)
-        if (!grid_.column(i).Faixa.empty())
-            return true;
-    return false;
-}
-
 int BandHeader::lineHeight() const { return fontMetrics().height() + Padding; }
 
-QSize BandHeader::sizeHint() const { return {length(), lineHeight() * (hasBands() ? 2 : 1) + filterHeight_ + 1}; }
-
-int BandHeader::titleWidth(int section) const {
-    return fontMetrics().horizontalAdvance(fromUtf8(grid_.column(section).Titulo)) + 2 * Padding + SortRoom;
+QSize BandHeader::sizeHint() const {
+    return {length(), lineHeight() * (!grid_.bands().empty() ? 2 : 1) + filterHeight_ + 1};
 }
 
-QRect BandHeader::bandRect(int section) const {
-    const auto& band = grid_.column(section).Faixa;
-    int first = section;
-    int last = section;
-    while (first > 0 && !isSectionHidden(first - 1) && grid_.column(first - 1).Faixa == band)
-        --first;
-    while (last + 1 < count() && !isSectionHidden(last + 1) && grid_.column(last + 1).Faixa == band)
-        ++last;
+int BandHeader::titleWidth(int section) const {
+    return fontMetrics().horizontalAdvance(title(section)) + 2 * Padding + SortRoom;
+}
+
+const table::Band& BandHeader::bandOf(int section) const {
+    const auto& bands = grid_.bands();
+    const auto behind = std::upper_bound(bands.begin(), bands.end(), static_cast<std::size_t>(section),
+                                         [](std::size_t column, const auto& band) { return column < band.first; });
+    return *std::prev(behind);
+}
+
+QRect BandHeader::rectOf(const table::Band& band) const {
+    const int first = static_cast<int>(band.first);
+    int last = first + static_cast<int>(band.count) - 1;
+    while (last > first && isSectionHidden(last)) // another header has the rest
+        --last;
     const int left = sectionViewportPosition(first);
     return {left, 0, sectionViewportPosition(last) + sectionSize(last) - left, lineHeight()};
 }
+
+QString BandHeader::title(int section) const { return fromUtf8(grid_.column(section).shown->Titulo); }
 
 void BandHeader::paintSort(QPainter& painter, const QRect& rect, const SortMark& mark) const {
     const int side = std::max(6, fontMetrics().height() / 2);
@@ -92,28 +93,27 @@ void BandHeader::paintSection(QPainter* painter, const QRect& rect, int section)
     const auto ink = legible(palette().color(QPalette::ButtonText), ground);
     const auto line = palette().color(QPalette::Mid);
     painter->fillRect(rect, ground);
-    const bool bands = hasBands();
     int top = 0;
-    if (bands) {
-        const auto band = bandRect(section);
-        const auto& caption = grid_.column(section).Faixa;
+    if (!grid_.bands().empty()) {
+        const auto& band = bandOf(section);
+        const auto place = rectOf(band);
         painter->setPen(line);
-        if (!caption.empty())
-            painter->drawLine(rect.left(), band.bottom(), rect.right(), band.bottom());
-        painter->drawLine(band.right(), 0, band.right(), rect.height());
+        if (!band.caption.empty())
+            painter->drawLine(rect.left(), place.bottom(), rect.right(), place.bottom());
+        painter->drawLine(place.right(), 0, place.right(), rect.height());
         auto bold = font();
         bold.setBold(true);
         painter->setFont(bold);
         painter->setPen(ink);
         // The caption keeps to the part of the band that is in view.
         const auto open = viewport()->rect().adjusted(covered_, 0, 0, 0);
-        const auto seen = band.intersected(open).adjusted(Padding, 0, -Padding, 0);
+        const auto seen = place.intersected(open).adjusted(Padding, 0, -Padding, 0);
         painter->drawText(seen, Qt::AlignCenter,
-                          QFontMetrics(bold).elidedText(fromUtf8(caption), Qt::ElideRight, seen.width()));
+                          QFontMetrics(bold).elidedText(fromUtf8(band.caption), Qt::ElideRight, seen.width()));
         painter->setFont(font());
-        top = bands ? lineHeight() : 0;
+        top = lineHeight();
     }
-    const QRect title(rect.left(), top, rect.width(), rect.height() - top - filterHeight_);
+    const QRect below(rect.left(), top, rect.width(), rect.height() - top - filterHeight_);
     painter->setPen(line);
     painter->drawLine(rect.right(), top, rect.right(), rect.bottom());
     painter->drawLine(rect.left(), rect.bottom(), rect.right(), rect.bottom());
@@ -121,13 +121,13 @@ void BandHeader::paintSection(QPainter* painter, const QRect& rect, int section)
     const auto sort = sorts_.find(section);
     const int digit = sorts_.size() > 1 ? fontMetrics().horizontalAdvance(QLatin1Char('0')) : 0;
     const int right = sort == sorts_.end() ? Padding : Padding + SortRoom + digit;
-    const auto room = title.adjusted(Padding, 0, -right, 0);
-    const bool number = grid_.columns()[static_cast<std::size_t>(section)].number;
-    const auto text = fromUtf8(grid_.column(section).Titulo);
+    const auto room = below.adjusted(Padding, 0, -right, 0);
+    const bool number = grid_.column(section).right();
+    const auto text = title(section);
     const auto shown = fontMetrics().elidedText(text, Qt::ElideRight, room.width());
     painter->drawText(room, Qt::AlignVCenter | (number && shown == text ? Qt::AlignRight : Qt::AlignLeft), shown);
     if (sort != sorts_.end())
-        paintSort(*painter, title, sort->second);
+        paintSort(*painter, below, sort->second);
     painter->restore();
 }
 
@@ -138,7 +138,7 @@ void BandHeader::paintEvent(QPaintEvent* event) {
     const bool after = target_ > pressed_;
     const int x = sectionViewportPosition(target_) + (after ? sectionSize(target_) - 2 : 0);
     QPainter painter(viewport());
-    const bool allowed = grid_.column(target_).Faixa == grid_.column(pressed_).Faixa;
+    const bool allowed = grid_.column(target_).shown->Faixa == grid_.column(pressed_).shown->Faixa;
     painter.fillRect(x, 0, 3, height(), palette().color(allowed ? QPalette::Highlight : QPalette::Mid));
 }
 

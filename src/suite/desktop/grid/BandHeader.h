@@ -44,9 +44,10 @@ class BandHeader : public QHeaderView {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    bool hasBands() const;
     int lineHeight() const;
-    QRect bandRect(int section) const; // of the whole band, what is out of view too
+    QString title(int section) const;
+    const table::Band& bandOf(int section) const;
+    QRect rectOf(const table::Band& band) const; // of all of it, what is scrolled out of view too
     void paintSort(QPainter& painter, const QRect& rect, const SortMark& mark) const;
     void drop(const QPoint& position, const QPoint& global);
 

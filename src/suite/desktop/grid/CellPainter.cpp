@@ -1,6 +1,7 @@
 #include "suite/desktop/grid/CellPainter.h"
 
 #include "suite/desktop/look/CellColours.h"
+#include "suite/desktop/look/Text.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -32,10 +33,11 @@ int CellPainter::widthOf(int row, int column) const {
         return QFontMetrics(bold(view_.font()))
                    .horizontalAdvance(grid_.sumText(grid_.rows().groupAt(static_cast<std::size_t>(row)), column)) +
                2 * Padding;
-    const auto cell = grid_.cell(row, column, false);
+    const auto cell = grid_.cell(row, column);
     const QFontMetrics metrics(bold(view_.font(), cell.look.Negrito));
-    return metrics.horizontalAdvance(cell.text) + 2 * Padding +
-           (grid_.showsMark(column) ? metrics.horizontalAdvance(QStringLiteral("MM")) + Padding : 0);
+    return metrics.horizontalAdvance(fromUtf8(cell.text)) + 2 * Padding +
+           (grid_.table().showsSign(grid_.column(column)) ? metrics.horizontalAdvance(QStringLiteral("MM")) + Padding
+                                                          : 0);
 }
 
 void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
@@ -54,7 +56,7 @@ void CellPainter::paintFrame(QPainter& painter, const QStyleOptionViewItem& opti
     const auto& r = option.rect;
     const int column = index.column();
     const bool bandEnds = column + 1 < grid_.columnCount() && !grid_.isGroup(index.row()) &&
-                          grid_.column(column).Faixa != grid_.column(column + 1).Faixa;
+                          grid_.column(column).shown->Faixa != grid_.column(column + 1).shown->Faixa;
     painter.setPen(between(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.12));
     painter.drawLine(r.bottomLeft(), r.bottomRight());
     if (bandEnds) {
@@ -92,13 +94,13 @@ void CellPainter::paintLine(QPainter& painter, const QStyleOptionViewItem& optio
     painter.setFont(font);
     painter.setPen(colours.text);
     auto room = option.rect.adjusted(Padding, 0, -Padding, -1);
-    if (grid_.showsMark(index.column())) {
-        const auto mark = GridModel::mark(grid_.meaning(index.row()));
-        painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, mark);
-        room.setLeft(room.left() + metrics.horizontalAdvance(mark) + Padding);
+    if (grid_.table().showsSign(grid_.column(index.column()))) {
+        const auto sign = grid_.sign(index.row());
+        painter.drawText(room, Qt::AlignLeft | Qt::AlignVCenter, sign);
+        room.setLeft(room.left() + metrics.horizontalAdvance(sign) + Padding);
     }
-    const bool number = grid_.columns()[static_cast<std::size_t>(index.column())].number;
-    auto text = cell.text;
+    const bool number = grid_.column(index.column()).right();
+    auto text = fromUtf8(cell.text);
     if (metrics.horizontalAdvance(text) > room.width()) // a number cut short is another number
         text = number
                    ? QString(std::max(1, room.width() / metrics.horizontalAdvance(QLatin1Char('#'))), QLatin1Char('#'))

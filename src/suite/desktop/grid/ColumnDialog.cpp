@@ -1,7 +1,8 @@
 #include "suite/desktop/grid/ColumnDialog.h"
 
-#include "suite/desktop/grid/PaneColumns.h"
+#include "suite/desktop/grid/ColumnChanges.h"
 #include "suite/desktop/look/Text.h"
+#include "suite/table/Columns.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -51,9 +52,9 @@ void ColumnDialog::fill(std::size_t current) {
     list_->clear();
     offered_.clear();
     for (std::size_t i = 0; i < columns_.size(); ++i) {
-        if (!isOffered(columns_, i))
+        if (!table::isOffered(columns_, i))
             continue;
-        auto* item = new QListWidgetItem(fullTitle(columns_, i), list_);
+        auto* item = new QListWidgetItem(fromUtf8(table::headingOf(columns_[i])), list_);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(columns_[i].Visivel ? Qt::Checked : Qt::Unchecked);
         offered_.push_back(i);

@@ -25,7 +25,7 @@ QLineEdit* FilterRow::make(const std::string& field) {
         if (text.trimmed().isEmpty())
             texts_.erase(field);
         else
-            texts_[field] = text;
+            texts_[field] = toUtf8(text);
         Q_EMIT changed();
     });
     return edit;
@@ -35,14 +35,12 @@ void FilterRow::columnsChanged() {
     byColumn_.clear();
     for (int i = 0; i < grid_.columnCount(); ++i) {
         const auto& column = grid_.column(i);
-        auto& edit = edits_[column.Campo];
+        auto& edit = edits_[grid_.field(i)];
         if (!edit)
-            edit = make(column.Campo);
-        edit->setAccessibleName(QStringLiteral("Filtro de ") +
-                                grid_.headerData(i, Qt::Horizontal, Qt::AccessibleTextRole).toString());
-        const bool number = grid_.columns()[static_cast<std::size_t>(i)].number;
-        edit->setToolTip(number ? QStringLiteral("Parte do número, ou >10, <=5,5, =0, <>0, 10..20")
-                                : QStringLiteral("Parte do texto; = procura o texto inteiro"));
+            edit = make(grid_.field(i));
+        edit->setAccessibleName(QStringLiteral("Filtro de ") + fromUtf8(column.heading));
+        edit->setToolTip(column.right() ? QStringLiteral("Parte do número, ou >10, <=5,5, =0, <>0, 10..20")
+                                        : QStringLiteral("Parte do texto; = procura o texto inteiro"));
         byColumn_.push_back(edit);
     }
     bool lost = false; // a column that is not in view filters nothing
@@ -59,7 +57,7 @@ void FilterRow::columnsChanged() {
 }
 
 void FilterRow::place() {
-    for (std::size_t i = 0; i < byColumn_.size() && i < grid_.columns().size(); ++i) {
+    for (std::size_t i = 0; i < byColumn_.size() && i < grid_.table().columns().size(); ++i) {
         const int column = static_cast<int>(i);
         auto& header = view_.headerOf(column);
         auto* edit = byColumn_[i];
@@ -115,7 +113,7 @@ bool FilterRow::key(QLineEdit& edit, int key, Qt::KeyboardModifiers modifiers) {
         Q_EMIT left(column);
         return true;
     case Qt::Key_Period: // of the numeric pad, the decimal one
-        if ((modifiers & Qt::KeypadModifier) == 0 || !grid_.columns()[static_cast<std::size_t>(column)].number)
+        if ((modifiers & Qt::KeypadModifier) == 0 || !grid_.column(column).right())
             return false;
         edit.insert(QStringLiteral(","));
         return true;

@@ -17,7 +17,7 @@ class FilterRow : public QObject {
     FilterRow(GridView& view, const GridModel& model, QObject* keys);
 
     void columnsChanged();
-    const std::map<std::string, QString>& texts() const { return texts_; } // by field, none of them empty
+    const std::map<std::string, std::string>& texts() const { return texts_; } // by field, none of them empty
     void clear();
     void focus(int column);
     std::vector<QWidget*> inOrder() const { return {byColumn_.begin(), byColumn_.end()}; }
@@ -40,7 +40,7 @@ class FilterRow : public QObject {
     QObject* keys_; // sees what is typed before the row does
     std::map<std::string, QLineEdit*> edits_;
     std::vector<QLineEdit*> byColumn_;
-    std::map<std::string, QString> texts_;
+    std::map<std::string, std::string> texts_;
 };
 
 } // namespace suite::desktop

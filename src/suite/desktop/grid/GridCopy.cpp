@@ -1,17 +1,29 @@
 #include "suite/desktop/grid/GridCopy.h"
 
+#include "suite/desktop/grid/GridModel.h"
+#include "suite/desktop/grid/GridView.h"
+#include "suite/desktop/look/Text.h"
+#include "suite/export/Formats.h"
+
+#include <QApplication>
+#include <QClipboard>
 #include <QMimeData>
 
 #include <algorithm>
+#include <functional>
+#include <memory>
+#include <numeric>
 #include <set>
 
 namespace suite::desktop {
 
 namespace {
 
-class Table {
+QString textOf(std::string_view text) { return fromUtf8(exporting::harmless(text)); }
+
+class Copy {
   public:
-    explicit Table(bool html) : html_(html) {}
+    explicit Copy(bool html) : html_(html) {}
 
     void begin() {
         first_ = true;
@@ -50,25 +62,53 @@ class Table {
     QString marked_;
 };
 
-void addTitles(Table& table, const GridModel& model, const std::vector<int>& columns) {
-    table.begin();
+void addTitles(Copy& copy, const GridModel& model, const std::vector<int>& columns) {
+    copy.begin();
     for (const auto column : columns)
-        table.add(model.headerData(column, Qt::Horizontal, Qt::AccessibleTextRole).toString(), false, true);
-    table.end();
+        copy.add(textOf(model.column(column).heading), false, true);
+    copy.end();
 }
 
-template <class Contains>
-void addRow(Table& table, const GridModel& model, int row, const std::vector<int>& columns, const Contains& contains) {
-    table.begin();
-    for (const auto column : columns)
-        table.add(contains(column) ? model.data(model.index(row, column), Qt::DisplayRole).toString() : QString(),
-                  model.columns()[static_cast<std::size_t>(column)].number, false);
-    table.end();
+void addRow(Copy& copy, const GridModel& model, int row, const std::vector<int>& columns,
+            const std::function<bool(int)>& contains) {
+    const auto& table = model.table();
+    const bool group = model.isGroup(row);
+    copy.begin();
+    for (const auto index : columns) {
+        const auto& column = model.column(index);
+        QString text;
+        if (!contains(index))
+            text = QString();
+        else if (group)
+            text = index == 0 ? textOf(toUtf8(model.caption(row)))
+                              : fromUtf8(table.sumText(model.rows().groupAt(static_cast<std::size_t>(row)), column));
+        else if (const auto cell = model.cell(row, index); column.type() == host::TTipoColuna::Texto)
+            text = textOf(cell.text);
+        else
+            text = fromUtf8(cell.text);
+        copy.add(text, column.right(), false);
+    }
+    copy.end();
 }
+
+void toClipboard(std::unique_ptr<QMimeData> data) { QApplication::clipboard()->setMimeData(data.release()); }
+
+struct WaitCursor {
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
 
 } // namespace
 
-std::unique_ptr<QMimeData> copyOf(const GridModel& model, const QItemSelection& selection, CopyTitles titles) {
+void copySelection(const GridView& view, const GridModel& model, bool titles) {
+    auto selection = view.selectionModel()->selection();
+    if (selection.isEmpty() && view.currentIndex().isValid())
+        selection.select(view.currentIndex(), view.currentIndex());
+    if (selection.isEmpty())
+        return;
+    const WaitCursor waiting;
     std::set<int> rows;
     std::set<int> across;
     for (const auto& range : selection) {
@@ -78,26 +118,26 @@ std::unique_ptr<QMimeData> copyOf(const GridModel& model, const QItemSelection& 
             across.insert(column);
     }
     const std::vector<int> columns(across.begin(), across.end());
-    Table table(static_cast<int>(rows.size()) <= MostHtmlRows);
-    if (titles == CopyTitles::With)
-        addTitles(table, model, columns);
+    Copy copy(static_cast<int>(rows.size()) <= MostHtmlRows);
+    if (titles && rows.size() * columns.size() > 1)
+        addTitles(copy, model, columns);
     for (const auto row : rows)
-        addRow(table, model, row, columns, [&](int column) {
+        addRow(copy, model, row, columns, [&](int column) {
             return std::any_of(selection.begin(), selection.end(),
                                [&](const QItemSelectionRange& range) { return range.contains(row, column, {}); });
         });
-    return table.finish();
+    toClipboard(copy.finish());
 }
 
-std::unique_ptr<QMimeData> copyOfAll(const GridModel& model) {
-    std::vector<int> columns;
-    for (int i = 0; i < model.columnCount(); ++i)
-        columns.push_back(i);
-    Table table(model.rowCount() <= MostHtmlRows);
-    addTitles(table, model, columns);
+void copyAll(const GridModel& model) {
+    const WaitCursor waiting;
+    std::vector<int> columns(static_cast<std::size_t>(model.columnCount()));
+    std::iota(columns.begin(), columns.end(), 0);
+    Copy copy(model.rowCount() <= MostHtmlRows);
+    addTitles(copy, model, columns);
     for (int row = 0; row < model.rowCount(); ++row)
-        addRow(table, model, row, columns, [](int) { return true; });
-    return table.finish();
+        addRow(copy, model, row, columns, [](int) { return true; });
+    toClipboard(copy.finish());
 }
 
 } // namespace suite::desktop

@@ -1,21 +1,18 @@
 #pragma once
 
-#include "suite/desktop/grid/GridModel.h"
-
-#include <QItemSelection>
-
-#include <memory>
-
-class QMimeData;
-
 namespace suite::desktop {
 
-enum class CopyTitles { With, Without };
+class GridModel;
+class GridView;
 
-// Cells as text with tabs and as a table of HTML, for spreadsheets and for letters, as they are displayed. What lies
-// between selected cells and is not selected stays empty. More than MostHtmlRows rows go as text alone.
+// Put rows on the clipboard as text with tabs and as a table of HTML, for spreadsheets and for letters, as they are
+// displayed; but a text that a spreadsheet would take for a formula has an apostrophe before it. More than MostHtmlRows
+// rows go as text alone.
 inline constexpr int MostHtmlRows = 5000;
-std::unique_ptr<QMimeData> copyOf(const GridModel& model, const QItemSelection& selection, CopyTitles titles);
-std::unique_ptr<QMimeData> copyOfAll(const GridModel& model);
+
+// What lies between selected cells and is not selected stays empty. Without a selection the current cell is copied. A
+// single cell has no title.
+void copySelection(const GridView& view, const GridModel& model, bool titles);
+void copyAll(const GridModel& model); // with titles
 
 } // namespace suite::desktop

@@ -1,6 +1,7 @@
 #include "suite/desktop/grid/GridFooter.h"
 
 #include "suite/desktop/look/CellColours.h"
+#include "suite/desktop/look/Text.h"
 
 #include <QHelpEvent>
 #include <QPainter>
@@ -31,21 +32,15 @@ QSize GridFooter::sizeHint() const { return {100, QFontMetrics(strong(view_.font
 
 QString GridFooter::text(int column) const { return grid_.sumText(grid_.rows().totalSet(), column); }
 
-QString GridFooter::label() const {
-    for (int i = 0; i < grid_.columnCount(); ++i)
-        if (const auto reason = grid_.reasonText(grid_.rows().totalSet(), i); !reason.isEmpty() && text(i).isEmpty())
-            return reason;
-    return grid_.rows().sums().onlyAnalytic() ? QStringLiteral("Total (contas analíticas)") : QStringLiteral("Total");
-}
+QString GridFooter::label() const { return fromUtf8(grid_.table().totalCaption(grid_.table().columns())); }
 
 void GridFooter::refresh() {
     bool any = false;
     QString all;
     for (int i = 0; i < grid_.columnCount(); ++i) {
-        any = any || grid_.columns()[static_cast<std::size_t>(i)].money;
+        any = any || grid_.column(i).sums();
         if (!text(i).isEmpty())
-            all += grid_.headerData(i, Qt::Horizontal, Qt::AccessibleTextRole).toString() + QStringLiteral(": ") +
-                   text(i) + QStringLiteral("; ");
+            all += fromUtf8(grid_.column(i).heading) + QStringLiteral(": ") + text(i) + QStringLiteral("; ");
     }
     setVisible(any);
     if (any)

@@ -1,53 +1,43 @@
 #pragma once
 
-#include "suite/desktop/grid/GridRows.h"
-#include "suite/desktop/grid/PaneColumns.h"
+#include "suite/table/Table.h"
 
 #include <QAbstractTableModel>
 
-#include <map>
+#include <functional>
 
 namespace suite::desktop {
 
-// The rows of a grid in view as the toolkit's views ask for them. Every text and every look is made when it is asked
-// for, and none is kept.
+// A table as the toolkit's views ask for it. Every text and every look is made when it is asked for, and none is kept.
 class GridModel : public QAbstractTableModel {
     Q_OBJECT
 
   public:
-    // Both outlive the model.
-    GridModel(const host::TGrade& grid, GridRows& rows, QObject* parent = nullptr);
+    // The table outlives the model, which is empty before the first change: views are made quickly then.
+    GridModel(table::Table& table, QObject* parent);
 
-    const host::TGrade& grid() const { return grid_; }
-    const GridRows& rows() const { return rows_; }
-    const std::vector<PaneColumn>& columns() const { return columns_; }
-    const host::TColunaGrade& column(int index) const { return grid_.Colunas()[columns_[at(index)].place]; }
-    int frozen() const { return frozen_; } // leading columns that stay in view
+    const table::Table& table() const { return table_; }
+    const table::Rows& rows() const { return table_.rows(); }
+    const table::Column& column(int index) const { return table_.columns()[at(index)]; }
+    const std::string& field(int index) const { return column(index).shown->Campo; }
+    int indexOf(const std::string& field) const; // -1 for a column that is not in view
+    int frozen() const { return frozen_; }       // leading columns that stay in view
+    const std::vector<table::Band>& bands() const { return bands_; }
 
-    // Runs a change of rows between the two halves of a reset.
+    // Runs a change of rows or columns between the two halves of a reset.
     void change(const std::function<void()>& deed);
-    // The columns as the grid has them now; part of a change.
-    void readColumns(bool freeze);
+    bool freezes() const { return freeze_; }
+    void freeze(bool on) { freeze_ = on; } // seen at the next change
 
-    struct Cell {
-        QString text;
-        host::TAparencia look;
-    };
-    // A cell of a line. An identification that the rule leaves to the first line of a block is shown where that line is
-    // not the one above.
-    Cell cell(int row, int column, bool selected) const;
-    bool isGroup(int row) const { return rows_.isGroup(at(row)); }
-    bool isOpen(int row) const { return rows_.group(rows_.groupAt(at(row))).open; }
-    int level(int row) const { return static_cast<int>(rows_.group(rows_.groupAt(at(row))).level); }
-    QString caption(int row) const;                     // of a group
-    QString sumText(std::size_t set, int column) const; // "" for none
+    bool isGroup(int row) const { return rows().isGroup(at(row)); }
+    bool isOpen(int row) const { return group(row).open; }
+    int level(int row) const { return static_cast<int>(group(row).level); }
+    table::Table::Cell cell(int row, int column, bool selected = false) const; // of a line
+    QString caption(int row) const;                                            // of a group
+    QString sumText(std::size_t set, int column) const;                        // "" for none
     QString reasonText(std::size_t set, int column) const;
-
-    void setColourMeanings(std::map<host::TCor, QString> meanings) { meanings_ = std::move(meanings); }
-    // What the colour of a line says, "" for nothing, and the sign that stands for it: "R>".
-    QString meaning(int row) const;
-    static QString mark(const QString& meaning);
-    bool showsMark(int column) const; // the column beside whose value the sign stands
+    QString meaning(int row) const; // of a line's colour, "" for nothing
+    QString sign(int row) const;    // that stands for it
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -57,14 +47,15 @@ class GridModel : public QAbstractTableModel {
 
   private:
     static std::size_t at(int index) { return static_cast<std::size_t>(index); }
-    bool repeatsAbove(int row, int column) const;
+    const table::Rows::Group& group(int row) const { return rows().group(rows().groupAt(at(row))); }
+    std::string lineMeaning(int row) const;
     QVariant groupData(int row, int column, int role) const;
 
-    const host::TGrade& grid_;
-    GridRows& rows_;
-    std::vector<PaneColumn> columns_;
+    table::Table& table_;
+    bool shown_ = false;
+    bool freeze_ = true;
     int frozen_ = 0;
-    std::map<host::TCor, QString> meanings_;
+    std::vector<table::Band> bands_;
 };
 
 } // namespace suite::desktop

@@ -1,97 +1,67 @@
 #include "suite/desktop/grid/GridPane.h"
 
-#include "suite/desktop/grid/ColumnMatcher.h"
 #include "suite/desktop/grid/FilterRow.h"
 #include "suite/desktop/grid/GridFooter.h"
+#include "suite/desktop/grid/GridKeys.h"
+#include "suite/desktop/grid/GridLayouts.h"
+#include "suite/desktop/grid/GridSizes.h"
+#include "suite/desktop/grid/GridStatus.h"
 #include "suite/desktop/grid/GroupPanel.h"
 #include "suite/desktop/grid/SearchBar.h"
 #include "suite/desktop/look/Text.h"
 
-#include <QCheckBox>
 #include <QEvent>
-#include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTimer>
 
 #include <algorithm>
-#include <cmath>
 
 namespace suite::desktop {
 
-namespace {
-
-constexpr int RowPadding = 7;
-constexpr int FilterPadding = 9;
-
-QString counted(std::size_t number) {
-    return QLocale(QLocale::Portuguese, QLocale::Brazil).toString(static_cast<qulonglong>(number));
-}
-
-} // namespace
-
 GridPane::GridPane(host::TGrade& grid, QWidget* parent)
-    : QWidget(parent), grid_(grid), rows_(std::make_unique<GridRows>()), model_(new GridModel(grid, *rows_, this)),
-      view_(new GridView(*model_, this)), filters_(new FilterRow(*view_, *model_, this)),
-      footer_(new GridFooter(*view_, *model_, this)), groups_(new GroupPanel(this)), search_(new SearchBar(this, this)),
-      across_(new QScrollBar(Qt::Horizontal, this)), count_(new QLabel(this)),
-      zeros_(new QCheckBox(QStringLiteral("&Ocultar linhas zeradas"), this)),
-      clear_(new QPushButton(QStringLiteral("Limpar &filtros"), this)),
-      options_(new QPushButton(QStringLiteral("O&pções da grade"), this)) {
+    : QWidget(parent), grid_(grid), table_(grid), model_(new GridModel(table_, this)), keys_(new GridKeys(*this)),
+      view_(new GridView(*model_, this)), filters_(new FilterRow(*view_, *model_, keys_)),
+      footer_(new GridFooter(*view_, *model_, this)), sizes_(new GridSizes(*model_, *view_, *footer_)),
+      groups_(new GroupPanel(this)), search_(new SearchBar(this, keys_)), across_(new QScrollBar(Qt::Horizontal, this)),
+      status_(new GridStatus(this)), options_(new QPushButton(QStringLiteral("O&pções da grade"), this)) {
     setObjectName(fromUtf8(grid.Nome()));
     setAccessibleName(QStringLiteral("Grade de resultados"));
-    usualSize_ = font().pointSizeF();
     build();
-    connectView();
-    QPointer<GridPane> self(this); // listeners of a grid are never taken off
-    gridChanges_ = grid_.AoMudar([self] {
-        if (self)
-            self->refresh(Rows::Same);
-    });
-    grid_.AoExpandirTudo = [self] {
-        if (self)
-            self->expandAll(true);
-    };
-    applyZoom();
-    refresh(Rows::Loaded);
+    connectParts();
+    gridChanges_ = grid_.AoMudar([this] { refresh(Rows::Same); });
+    grid_.AoExpandirTudo = [this] { expandAll(true); };
+    listen();
+    model_->change([] {});
+    columnsChanged();
+    afterChange({});
 }
 
 GridPane::~GridPane() { grid_.AoExpandirTudo = nullptr; }
 
-void GridPane::setColourMeanings(std::map<host::TCor, QString> meanings) {
-    model_->setColourMeanings(std::move(meanings));
-    applyWidths();
-    view_->viewport()->update();
+void GridPane::setLayouts(host::TZTDbGridDevLeiaute& layouts) {
+    layouts_ = std::make_unique<GridLayouts>(layouts, *this);
 }
-
-const std::vector<std::uint32_t>& GridPane::lines() const { return rows_->lines(); }
 
 std::optional<std::size_t> GridPane::currentLine() const {
     const auto index = view_->currentIndex();
     if (!index.isValid() || index.row() >= model_->rowCount() || model_->isGroup(index.row()))
         return std::nullopt;
-    return rows_->position(static_cast<std::size_t>(index.row()));
+    return table_.rows().position(static_cast<std::size_t>(index.row()));
 }
-
-std::string GridPane::columnAt(int index) const { return model_->column(index).Campo; }
 
 int GridPane::currentColumn() const { return view_->currentIndex().isValid() ? view_->currentIndex().column() : 0; }
 
-std::optional<std::size_t> GridPane::placeOf(const std::string& field) const {
-    const auto& all = grid_.Colunas();
-    const auto found = std::find_if(all.begin(), all.end(), [&](const auto& c) { return c.Campo == field; });
-    return found == all.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - all.begin()));
-}
+std::string GridPane::columnAt(int index) const { return model_->field(index); }
+
+bool GridPane::hidesZeros() const { return status_->withoutZeros(); }
 
 void GridPane::listen() {
     auto* rows = grid_.Fonte().DataSet;
     if (!rows || rows == heard_)
         return;
     heard_ = rows;
-    rowChanges_ = rows->AoMudarEstado([self = QPointer<GridPane>(this), rows] {
-        if (self && self->grid_.DataSet() == rows)
-            self->refresh(Rows::Loaded);
-    });
+    rowChanges_ = rows->AoMudarEstado([this] { refresh(Rows::Loaded); });
 }
 
 void GridPane::refresh(Rows rows, std::optional<bool> open) {
@@ -100,75 +70,62 @@ void GridPane::refresh(Rows rows, std::optional<bool> open) {
     const auto line = currentLine();
     // Another listener of the dataset may ask for all groups before this pane has heard that it is open.
     const bool active = grid_.DataSet() && grid_.DataSet()->Active();
-    const bool loaded = rows == Rows::Loaded || other || active != rows_->loaded();
+    const bool loaded = rows == Rows::Loaded || other || active != table_.active();
     model_->change([&] {
         if (loaded)
-            rows_->load(grid_.DataSet());
+            table_.load();
         if (open)
-            rows_->openAll(*open);
-        model_->readColumns(freeze_);
-        rows_->arrange(arrangement());
+            table_.rows().openAll(*open);
+        table_.readColumns();
+        table_.arrange(wish());
     });
     if (loaded)
         lastLine_.reset();
+    columnsChanged();
+    afterChange(loaded ? std::nullopt : line);
+    if (loaded) // number formats are set behind the opening
+        QTimer::singleShot(0, this, &GridPane::readFormats);
+}
+
+table::Wish GridPane::wish() const { return {sorts_.list(), filters_->texts(), status_->withoutZeros()}; }
+
+// The rows stay as they are unless they are filtered by what is displayed.
+void GridPane::readFormats() {
+    table_.readColumns();
+    if (!filters_->texts().empty())
+        arrangeRows();
+    sizes_->fitAll(false);
+    footer_->refresh();
+    view_->viewport()->update();
+    view_->frozen().viewport()->update();
+}
+
+void GridPane::columnsChanged() {
     filters_->columnsChanged();
     groups_->show(grid_);
     orderTabs();
-    afterChange(loaded ? std::nullopt : line);
-    if (loaded) // number formats are set behind the opening
-        QTimer::singleShot(0, this, &GridPane::fitColumns);
-}
-
-GridRows::Arrangement GridPane::arrangement() const {
-    GridRows::Arrangement wanted;
-    const auto* rows = grid_.DataSet();
-    if (!rows || !rows->Active())
-        return wanted;
-    for (const auto& column : columnsOfGroups(grid_))
-        wanted.groups.push_back(column.field);
-    for (const auto& sort : sorts_)
-        if (const auto* field = rows->FindField(sort.field))
-            wanted.sorts.push_back({field->Indice(), sort.descending});
-    for (const auto& column : model_->columns())
-        if (column.money)
-            wanted.money.push_back(column.field);
-    for (const auto& column : grid_.Colunas())
-        if (const auto* field = column.Identificacao ? rows->FindField(column.Campo) : nullptr)
-            wanted.identification.push_back(field->Indice());
-    auto matchers = std::make_shared<std::vector<ColumnMatcher>>();
-    for (const auto& column : model_->columns())
-        if (const auto typed = filters_->texts().find(grid_.Colunas()[column.place].Campo);
-            typed != filters_->texts().end())
-            matchers->emplace_back(rows->Colunas()[column.field], formatOf(grid_, column), typed->second);
-    const bool noZeros = zeros_->isChecked() && !wanted.money.empty();
-    if (matchers->empty() && !noZeros)
-        return wanted;
-    wanted.keeps = [rows, matchers, noZeros, money = wanted.money](std::size_t position) {
-        const auto row = rows->LinhaDe(position);
-        const auto isZero = [&](std::size_t field) {
-            const auto& values = rows->Colunas()[field];
-            return values.Nulo(row) || values.Unidades(row) == 0;
-        };
-        return !(noZeros && std::all_of(money.begin(), money.end(), isZero)) &&
-               std::all_of(matchers->begin(), matchers->end(), [&](const auto& matches) { return matches(row); });
-    };
-    return wanted;
 }
 
 void GridPane::arrangeRows() {
     const auto line = currentLine();
-    model_->change([&] { rows_->arrange(arrangement()); });
+    model_->change([&] { table_.arrange(wish()); });
     afterChange(line);
 }
 
+void GridPane::changeRows(const std::function<void()>& deed) {
+    model_->change(deed);
+    sizes_->apply();
+    view_->columnsChanged();
+}
+
 void GridPane::afterChange(std::optional<std::size_t> line) {
-    applyWidths();
+    sizes_->apply();
     view_->columnsChanged();
     showSorts();
     footer_->refresh();
     tellCount();
     const int column = std::min(currentColumn(), model_->columnCount() - 1);
-    const auto row = line ? rows_->find(*line) : std::nullopt;
+    const auto row = line ? table_.rows().find(*line) : std::nullopt;
     if (model_->rowCount() > 0 && column >= 0) {
         const auto index = model_->index(static_cast<int>(row.value_or(0)), column);
         view_->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
@@ -180,10 +137,11 @@ void GridPane::afterChange(std::optional<std::size_t> line) {
 
 void GridPane::orderTabs() {
     std::vector<QWidget*> stops = groups_->buttons();
-    stops.push_back(options_);
-    const auto fields = filters_->inOrder();
-    stops.insert(stops.end(), fields.begin(), fields.end());
-    stops.insert(stops.end(), {view_, zeros_, clear_});
+    const auto add = [&](const std::vector<QWidget*>& more) { stops.insert(stops.end(), more.begin(), more.end()); };
+    add({options_});
+    add(filters_->inOrder());
+    add({view_});
+    add(status_->stops());
     for (std::size_t i = 1; i < stops.size(); ++i)
         setTabOrder(stops[i - 1], stops[i]);
 }
@@ -196,55 +154,18 @@ void GridPane::tellLine() {
 }
 
 void GridPane::tellCount() {
-    const bool open = grid_.DataSet() && grid_.DataSet()->Active();
-    const auto all = open ? grid_.DataSet()->RecordCount() : 0;
-    const auto shown = rows_->lines().size();
-    const bool filtered = !filters_->texts().empty() || zeros_->isChecked();
-    clear_->setEnabled(filtered);
-    if (!open)
-        count_->clear();
-    else if (filtered)
-        count_->setText(QStringLiteral("Mostrando %1 de %2 linhas").arg(counted(shown), counted(all)));
-    else
-        count_->setText(all == 1 ? QStringLiteral("1 linha") : QStringLiteral("%1 linhas").arg(counted(all)));
+    const auto all = table_.active() ? std::optional(table_.dataSet().RecordCount()) : std::nullopt;
+    status_->tell(all, lines().size(), !filters_->texts().empty());
 }
 
 void GridPane::showSorts() {
     std::map<int, BandHeader::SortMark> marks;
-    for (int i = 0; i < model_->columnCount(); ++i)
-        for (std::size_t k = 0; k < sorts_.size(); ++k)
-            if (sorts_[k].field == model_->column(i).Campo)
-                marks[i] = {static_cast<int>(k) + 1, sorts_[k].descending};
+    const auto& sorts = sorts_.list();
+    for (std::size_t k = 0; k < sorts.size(); ++k)
+        if (const int column = model_->indexOf(sorts[k].field); column >= 0)
+            marks[column] = {static_cast<int>(k) + 1, sorts[k].descending};
     view_->header().setSorts(marks);
     view_->frozen().header().setSorts(marks);
-}
-
-void GridPane::toggle(int row) {
-    if (row < 0 || row >= model_->rowCount() || !model_->isGroup(row))
-        return;
-    const int column = currentColumn();
-    const int top = view_->verticalScrollBar()->value();
-    model_->change([&] { rows_->toggle(rows_->groupAt(static_cast<std::size_t>(row))); });
-    applyWidths();
-    view_->columnsChanged();
-    view_->setCurrentIndex(model_->index(row, column));
-    view_->verticalScrollBar()->setValue(top);
-}
-
-double GridPane::scale() const {
-    constexpr double Step = 1.1;
-    return std::pow(Step, zoom_);
-}
-
-void GridPane::applyZoom() {
-    auto scaled = font();
-    scaled.setPointSizeF(usualSize_ * scale());
-    view_->setFont(scaled);
-    const QFontMetrics metrics(scaled);
-    view_->setRowHeight(metrics.height() + RowPadding);
-    view_->setFilterHeight(metrics.height() + FilterPadding);
-    applyWidths();
-    footer_->refresh();
 }
 
 void GridPane::changeEvent(QEvent* event) {

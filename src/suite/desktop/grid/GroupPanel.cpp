@@ -1,7 +1,7 @@
 #include "suite/desktop/grid/GroupPanel.h"
 
-#include "suite/desktop/grid/PaneColumns.h"
 #include "suite/desktop/look/Text.h"
+#include "suite/table/Columns.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -36,7 +36,7 @@ void GroupPanel::show(const host::TGrade& grid) {
                                   : QStringLiteral("Agrupado por:"));
     for (const auto place : places) {
         auto* button = new QToolButton(this);
-        const auto title = fullTitle(all, place);
+        const auto title = fromUtf8(table::headingOf(all[place]));
         button->setObjectName(QStringLiteral("Grupo") + fromUtf8(all[place].Campo));
         button->setText(title + QStringLiteral("  ✕"));
         button->setToolTip(QStringLiteral("Deixar de agrupar por %1").arg(title));

@@ -110,7 +110,7 @@ MainWindow::End show(const DesktopProgram& program, Aside& aside, const Database
     struct Forget {
         ~Forget() { current = nullptr; }
     } const forget;
-    const auto session = program.login(*connection, interaction);
+    const auto session = program.login(request, *connection, interaction);
     const auto texts = session->texts();
     WindowServices services;
     services.company = texts.company;
@@ -118,7 +118,7 @@ MainWindow::End show(const DesktopProgram& program, Aside& aside, const Database
     services.user = texts.user;
     services.database = request.target;
     services.version = program.version;
-    services.exportGrid = program.exportGrid;
+    services.write = [&](const table::Table& table, const std::string& file) { session->write(table, file); };
     services.formats = program.formats;
     services.reconnect = [&] { connection->exchange(connect()); };
     services.confirmNextModal = [&](bool confirm) { interaction.confirmNextModal(confirm); };

@@ -29,6 +29,8 @@ class DesktopSession {
         std::string company, establishment, user;
     };
     virtual Texts texts() const = 0;
+    // What the window's result says, with what it was asked for, by the file's ending. Throws base::TFalha.
+    virtual void write(const table::Table& table, const std::string& file) = 0;
 };
 
 // What the desktop needs of the program around it.
@@ -42,9 +44,9 @@ struct DesktopProgram {
         makeDemo;
     std::function<AsideConnection::Inner(const DatabaseRequest&)> connect; // in another thread
     // Connection and interaction outlive the session.
-    std::function<std::unique_ptr<DesktopSession>(host::TZTConnection&, host::TInteracao&)> login;
-    ExportFunction exportGrid;
-    std::vector<ExportFormat> formats;
+    std::function<std::unique_ptr<DesktopSession>(const DatabaseRequest&, host::TZTConnection&, host::TInteracao&)>
+        login;
+    std::vector<ExportFormat> formats; // that a session writes
 };
 
 // Whether there is a screen to open windows on.

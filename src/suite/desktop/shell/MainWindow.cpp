@@ -61,16 +61,6 @@ MainWindow::~MainWindow() {
     settings::keepState("janela/divisao", splitter_->saveState());
 }
 
-// What the legend says of its colours: a swatch, and the text of the label behind it.
-std::map<host::TCor, QString> MainWindow::meaningsOf(const std::vector<std::string>& labels) const {
-    std::map<host::TCor, QString> meanings;
-    for (std::size_t i = 0; i + 1 < labels.size(); ++i)
-        if (const auto* swatch = dynamic_cast<const host::TLabelColorido*>(&form_.Controle(labels[i]));
-            swatch && swatch->Amostra())
-            meanings[swatch->Fonte()] = fromMessage(form_.Controle(labels[i + 1]).Caption());
-    return meanings;
-}
-
 QWidget* MainWindow::makeLegend(const View& view, QWidget* parent) {
     auto* legend = new QWidget(parent);
     legend->setObjectName(QString::fromLatin1(view.legend));
@@ -122,7 +112,6 @@ void MainWindow::makeBody() {
         stack->addWidget(grid, 1);
         view.pane = qobject_cast<GridPane*>(grid);
         if (view.pane) {
-            view.pane->setColourMeanings(meaningsOf(view.labels));
             if (auto* layouts = dynamic_cast<host::TZTDbGridDevLeiaute*>(&form_.Controle(view.layouts)))
                 view.pane->setLayouts(*layouts);
             connect(view.pane, &GridPane::linesChanged, this, [this] { showRows(); });

@@ -24,7 +24,7 @@ class GridPane;
 struct WindowServices {
     std::string company, establishment, user, database; // as the status line shows them
     std::string version;                                // for "Sobre"
-    ExportFunction exportGrid;
+    ExportFunction write;
     std::vector<ExportFormat> formats;
     std::function<void()> reconnect;                   // throws when it fails; absent: not offered
     std::function<void(bool)> confirmNextModal;        // whether the next dialog is confirmed as it stands
@@ -61,7 +61,6 @@ class MainWindow : public QMainWindow {
         GridPane* pane = nullptr;
     };
 
-    std::map<host::TCor, QString> meaningsOf(const std::vector<std::string>& labels) const;
     QWidget* makeLegend(const View& view, QWidget* parent);
     void makeBody();
     // Beside the grid, hidden until it is shown.

@@ -81,11 +81,8 @@ void MainWindow::makeActions() {
     repeat_->setIcon(icon(Symbol::Repeat));
     actual_->setIcon(icon(Symbol::Actual));
     print_->setIcon(icon(Symbol::Print));
-    export_ = new ResultExport(services_.exportGrid, services_.formats, *this);
+    export_ = new ResultExport(services_.write, services_.formats, *this);
     export_->pane = [this] { return paneInView(); };
-    export_->title = [this] {
-        return std::vector<std::string>{form_.Titulo(), services_.company, form_.Controle("PnlTitulo").Caption()};
-    };
     export_->attempt = [this](const std::function<void()>& deed) { binding_->attempt(deed); };
     export_->tell = [this](const QString& text) { statusBar()->showMessage(text, 8000); };
     exportButton_ = export_->menu().menuAction();

@@ -1,7 +1,6 @@
 #include "suite/desktop/shell/ResultExport.h"
 
 #include "suite/desktop/grid/GridPane.h"
-#include "suite/desktop/grid/GridPdf.h"
 #include "suite/desktop/look/Text.h"
 #include "suite/desktop/look/UserSettings.h"
 #include "suite/desktop/shell/MessageDialog.h"
@@ -21,14 +20,12 @@ namespace {
 
 constexpr const char* FolderSetting = "exportar/pasta";
 constexpr int OpenFile = host::TResposta::Primeira;
-constexpr const char* PictureEnding = ".pdf";
 
 } // namespace
 
 ResultExport::ResultExport(ExportFunction write, std::vector<ExportFormat> formats, QWidget& window)
     : QObject(&window), write_(std::move(write)), formats_(std::move(formats)), window_(window),
       menu_(new QMenu(QStringLiteral("E&xportar"), &window)) {
-    formats_.push_back({PictureEnding, "&Figura da grade (.pdf)"});
     menu_->setObjectName(QStringLiteral("PmExtensoesGrade"));
     for (const auto& format : formats_) {
         auto* action = menu_->addAction(fromUtf8(format.caption));
@@ -75,11 +72,7 @@ void ResultExport::write(const GridPane& shown, const QString& file) {
     };
     {
         const Restore restore;
-        const auto above = title();
-        if (file.endsWith(QLatin1String(PictureEnding), Qt::CaseInsensitive))
-            writeGridPdf(shown, file, above);
-        else
-            write_(shown.grid(), shown.lines(), toUtf8(file), above);
+        write_(shown.table(), toUtf8(file));
     }
     tell(QStringLiteral("Exportado para %1").arg(file));
     MessageContent done;

@@ -1,12 +1,10 @@
 #pragma once
 
-#include "host/Grade.h"
+#include "suite/table/Table.h"
 
 #include <QObject>
 
-#include <cstdint>
 #include <functional>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -17,9 +15,8 @@ namespace suite::desktop {
 
 class GridPane;
 
-// Writes rows of a grid, by position in its dataset and in that order, to a file by its ending. Throws base::TFalha.
-using ExportFunction = std::function<void(const host::TGrade& grid, const std::vector<std::uint32_t>& lines,
-                                          const std::string& file, std::span<const std::string> title)>;
+// Writes what a table says to a file by its ending. Throws base::TFalha.
+using ExportFunction = std::function<void(const table::Table& table, const std::string& file)>;
 
 // A kind of file to which the export can write.
 struct ExportFormat {
@@ -33,9 +30,8 @@ class ResultExport : public QObject {
     ResultExport(ExportFunction write, std::vector<ExportFormat> formats, QWidget& window);
 
     QMenu& menu() const { return *menu_; }
-    // Asked at each export: the pane in view, null for none, and what stands above its rows.
+    // Asked at each export: the pane in view, null for none.
     std::function<GridPane*()> pane;
-    std::function<std::vector<std::string>()> title;
     // Runs the deed and shows its failure.
     std::function<void(const std::function<void()>&)> attempt;
     std::function<void(const QString&)> tell; // a line for the user

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "suite/export/Exporter.h"
+
+namespace suite::program {
+
+// All formats of this program.
+const exporting::Exporter& exporter();
+
+// Of an output made now, from a database as the user names it. The time is that of SOURCE_DATE_EPOCH where it is set,
+// so that the same data gives the same bytes.
+exporting::Origin originNow(const std::string& database);
+
+} // namespace suite::program
