@@ -1,4 +1,4 @@
-#include "suite/export/XlsxLayout.h"
+#include "suite/export/XlsxHead.h"
 
 namespace suite::exporting {
 

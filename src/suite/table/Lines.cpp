@@ -58,13 +58,6 @@ bool Lines::follows(std::size_t above, std::size_t row) const {
     return type_ && type_->Comparar(above, row) < 0 && same(above, row);
 }
 
-std::size_t Lines::level(std::size_t row) const {
-    if (!level_ || level_->Nulo(row))
-        return 0;
-    const auto text = level_->Texto(row);
-    return static_cast<std::size_t>(std::count(text.begin(), text.end(), '.'));
-}
-
 bool Lines::isBelow(std::size_t above, std::size_t row) const {
     if (!level_ || level_->Nulo(above) || level_->Nulo(row))
         return false;

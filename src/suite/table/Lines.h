@@ -23,7 +23,6 @@ class Lines {
     bool same(std::size_t a, std::size_t b) const; // rows of one line
     // The second one goes on with the block of rows of the first, which stands before it.
     bool follows(std::size_t above, std::size_t row) const;
-    std::size_t level(std::size_t row) const; // of the account, 0 at the top
     bool isBelow(std::size_t above, std::size_t row) const; // by the account's classification
 
   private:
