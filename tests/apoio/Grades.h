@@ -204,7 +204,7 @@ struct GradePeriodos {
                 total += mes <= meses ? valor : 0;
                 linha.push_back(mes <= meses ? base::TValor(base::TDecimal{valor, 2}) : base::Nulo);
                 linha.push_back(mes <= meses ? base::TValor(base::TDecimal{83'333, 4}) : base::Nulo);
-                linha.push_back(std::string(mes <= meses ? nomesDosMeses[mes - 1] : ""));
+                linha.emplace_back(std::in_place_type<std::string>, mes <= meses ? nomesDosMeses[mes - 1] : "");
             }
             linha[10] = base::TDecimal{total, 2};
             return linha;
