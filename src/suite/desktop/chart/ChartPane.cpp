@@ -4,6 +4,7 @@
 #include "base/Falhas.h"
 #include "suite/desktop/chart/ChartPainter.h"
 #include "suite/desktop/grid/GridPane.h"
+#include "suite/desktop/look/CellColours.h"
 #include "suite/desktop/look/Text.h"
 #include "suite/desktop/shell/Failures.h"
 
@@ -22,14 +23,6 @@ namespace suite::desktop {
 namespace {
 
 constexpr QSize PictureSize(1200, 800);
-
-QPalette paperPalette() {
-    QPalette palette;
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Text, Qt::black);
-    palette.setColor(QPalette::Midlight, QColor(0xD0D0D0));
-    return palette;
-}
 
 } // namespace
 

@@ -14,11 +14,6 @@ namespace suite::desktop {
 
 namespace {
 
-QColor between(const QColor& a, const QColor& b, double share) {
-    const auto part = [share](int x, int y) { return static_cast<int>(x + (y - x) * share); };
-    return {part(a.red(), b.red()), part(a.green(), b.green()), part(a.blue(), b.blue())};
-}
-
 QFont bold(QFont font, bool on = true) {
     font.setBold(on);
     return font;
@@ -57,10 +52,10 @@ void CellPainter::paintFrame(QPainter& painter, const QStyleOptionViewItem& opti
     const int column = index.column();
     const bool bandEnds = column + 1 < grid_.columnCount() && !grid_.isGroup(index.row()) &&
                           grid_.column(column).shown->Faixa != grid_.column(column + 1).shown->Faixa;
-    painter.setPen(between(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.12));
+    painter.setPen(mixed(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.12));
     painter.drawLine(r.bottomLeft(), r.bottomRight());
     if (bandEnds) {
-        painter.setPen(between(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.3));
+        painter.setPen(mixed(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.3));
         painter.drawLine(r.topRight(), r.bottomRight());
     }
     if (!view_.hasFocus() || index.row() != view_.currentIndex().row())
@@ -83,7 +78,7 @@ void CellPainter::paintLine(QPainter& painter, const QStyleOptionViewItem& optio
         colours.text = option.palette.color(QPalette::HighlightedText);
         colours.ground = legible(option.palette.color(QPalette::Highlight), colours.text);
     } else if (current) {
-        colours.ground = between(colours.ground, option.palette.color(QPalette::Highlight), 0.16);
+        colours.ground = mixed(colours.ground, option.palette.color(QPalette::Highlight), 0.16);
         colours.text = legible(colours.text, colours.ground);
     }
     painter.fillRect(option.rect, colours.ground);
@@ -119,9 +114,9 @@ int CellPainter::captionEnd(int row) const {
 void CellPainter::paintGroup(QPainter& painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
     const auto& palette = option.palette;
     const double shade = 0.14 - 0.03 * std::min(3, grid_.level(index.row()));
-    auto ground = between(palette.color(QPalette::Base), palette.color(QPalette::Text), shade);
+    auto ground = mixed(palette.color(QPalette::Base), palette.color(QPalette::Text), shade);
     if (index.row() == view_.currentIndex().row() || (option.state & QStyle::State_Selected) != 0)
-        ground = between(ground, palette.color(QPalette::Highlight), 0.3);
+        ground = mixed(ground, palette.color(QPalette::Highlight), 0.3);
     const auto ink = legible(palette.color(QPalette::Text), ground);
     painter.fillRect(option.rect, ground);
     const auto font = bold(view_.font());

@@ -1,5 +1,7 @@
 #include "suite/desktop/look/CellColours.h"
 
+#include "suite/table/Luminance.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -9,17 +11,7 @@ namespace {
 
 constexpr host::TCor Black = 0;
 
-double luminance(const QColor& color) {
-    const auto part = [](double value) {
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) + 0.0722 * part(color.blueF());
-}
-
-QColor mix(const QColor& a, const QColor& b, double share) {
-    const auto part = [share](int x, int y) { return static_cast<int>(std::lround(x + (y - x) * share)); };
-    return {part(a.red(), b.red()), part(a.green(), b.green()), part(a.blue(), b.blue())};
-}
+double luminance(const QColor& color) { return table::luminance(color.rgb()); }
 
 bool dark(const QPalette& palette) {
     return luminance(palette.color(QPalette::Base)) < luminance(palette.color(QPalette::Text));
@@ -33,6 +25,19 @@ QColor dimmed(const QColor& paper) {
 
 } // namespace
 
+QPalette paperPalette() {
+    QPalette palette;
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    palette.setColor(QPalette::Midlight, QColor(0xD0D0D0));
+    return palette;
+}
+
+QColor mixed(const QColor& a, const QColor& b, double share) {
+    const auto part = [share](int x, int y) { return static_cast<int>(std::lround(x + (y - x) * share)); };
+    return {part(a.red(), b.red()), part(a.green(), b.green()), part(a.blue(), b.blue())};
+}
+
 double contrast(const QColor& a, const QColor& b) {
     const auto [low, high] = std::minmax({luminance(a), luminance(b)});
     return (high + 0.05) / (low + 0.05);
@@ -42,7 +47,7 @@ QColor legible(const QColor& wanted, const QColor& ground) {
     const QColor end = contrast(Qt::white, ground) > contrast(Qt::black, ground) ? Qt::white : Qt::black;
     constexpr int Steps = 20;
     for (int step = 0; step < Steps; ++step)
-        if (const auto color = mix(wanted, end, static_cast<double>(step) / Steps);
+        if (const auto color = mixed(wanted, end, static_cast<double>(step) / Steps);
             contrast(color, ground) >= LeastContrast)
             return color;
     return end;

@@ -9,6 +9,10 @@ namespace suite::desktop {
 
 inline constexpr double LeastContrast = 4.5; // of text that everyone can read
 
+// The colours of paper.
+QPalette paperPalette();
+// A part of the way from one colour to the other.
+QColor mixed(const QColor& a, const QColor& b, double share);
 // From 1 to 21.
 double contrast(const QColor& a, const QColor& b);
 // The wanted colour, as far towards black or white as it takes to be read on the ground.

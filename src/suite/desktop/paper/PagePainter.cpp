@@ -28,13 +28,6 @@ const QColor GroupGround(0xDC, 0xDC, 0xDC);
 const QColor TotalGround(0xE8, 0xE8, 0xE8);
 const QColor ThinInk(0xC8, 0xC8, 0xC8);
 
-QPalette paperPalette() {
-    QPalette palette;
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Text, Qt::black);
-    return palette;
-}
-
 } // namespace
 
 PagePainter::PagePainter(const table::Table& table, const exporting::Heading& heading, QPagedPaintDevice& device)

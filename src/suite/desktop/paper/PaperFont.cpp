@@ -14,7 +14,7 @@ namespace suite::desktop::paper {
 namespace {
 
 constexpr double LeastSpacing = 1.0 / 64; // any at all keeps "fi" two letters
-constexpr int Reference = 1000; // pixels of an em
+constexpr int Reference = 1000;           // pixels of an em
 
 // The advance of each letter, looked up once.
 class Letters {
