@@ -1,7 +1,7 @@
 #include "suite/export/Formats.h"
+#include "suite/table/Luminance.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <fstream>
 #include <map>
@@ -53,19 +53,10 @@ std::string hex(host::TCor color) {
     return text;
 }
 
-// Relative luminance, 0 to 1.
-double luminance(host::TCor color) {
-    const auto part = [&](unsigned shift) {
-        const double value = (color >> shift & 0xFFU) / 255.0;
-        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * part(16) + 0.7152 * part(8) + 0.0722 * part(0);
-}
-
 // A font colour meant for paper, mixed with white until it reads on a dark ground.
 host::TCor onDark(host::TCor color) {
     constexpr double Readable = 0.3;
-    while (luminance(color) < Readable) {
+    while (table::luminance(color) < Readable) {
         host::TCor mixed = 0;
         for (const unsigned shift : {16U, 8U, 0U}) {
             const auto part = color >> shift & 0xFFU;
@@ -98,7 +89,7 @@ class Looks {
             const auto name = ".c" + std::to_string(code);
             std::string rule = bold ? "font-weight:700;" : "";
             if (font || ground)
-                rule += "color:" + hex(font ? *font : luminance(*ground) > 0.2 ? 0 : 0xFFFFFF) + ";";
+                rule += "color:" + hex(font ? *font : table::luminance(*ground) > 0.2 ? 0 : 0xFFFFFF) + ";";
             if (ground)
                 rule += "background:" + hex(*ground) + ";";
             if (!rule.empty())
