@@ -6,6 +6,7 @@
 #include "suite/desktop/grid/GridPane.h"
 #include "suite/desktop/grid/GridView.h"
 #include "suite/desktop/paper/PdfFile.h"
+#include "suite/export/Exporter.h"
 #include "tests/apoio/Grades.h"
 #include "tests/desktop/Aplicacao.h"
 
@@ -111,6 +112,17 @@ void measurePaper(std::size_t lines) {
     std::filesystem::remove(file);
 }
 
+void measureExports(std::size_t lines, const std::filesystem::path& folder) {
+    apoio::GradeBalanco balance;
+    balance.encher(lines, 50, false);
+    const suite::exporting::Exporter exporter;
+    for (const char* ending : {".csv", ".json", ".html", ".xlsx"})
+        std::printf("export %-27s %7.3f s\n", ending, bench::seconds([&] {
+                        const suite::table::Table table(balance.grade);
+                        exporter.write(table, folder / (std::string("bancada") + ending), {});
+                    }));
+}
+
 void paint(GridPane& pane, const QString& file) {
     pane.resize(1400, 620);
     pane.show();
@@ -151,6 +163,8 @@ int main(int argc, char** argv) {
         measureGrid(argc > 2 ? static_cast<std::size_t>(std::atoll(argv[2])) : 200'000, argc > 3);
     else if (action == "papel")
         measurePaper(argc > 2 ? static_cast<std::size_t>(std::atoll(argv[2])) : 20'000);
+    else if (action == "exportar" && argc > 3)
+        measureExports(static_cast<std::size_t>(std::atoll(argv[2])), argv[3]);
     else if (action == "imagens" && argc > 2)
         paintImages(QString::fromLocal8Bit(argv[2]));
     else
