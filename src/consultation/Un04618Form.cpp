@@ -43,6 +43,12 @@ TForm04618Selecao& TForm04618::GetFormSelecao() {
     return *FFormSelecao;
 }
 
+TForm04618AtualizarRealizado& TForm04618::GetFormAtualizarRealizado() {
+    if (!FFormAtualizarRealizado)
+        FFormAtualizarRealizado = std::make_unique<TForm04618AtualizarRealizado>(GetDm04618());
+    return *FFormAtualizarRealizado;
+}
+
 void TForm04618::ActSelecionarExecute(host::TControle* ASender) {
     TFormZTTandorPadraoSelecao::ActSelecionarExecute(ASender);
     const auto& LDm = GetDm04618();
@@ -104,7 +110,12 @@ void TForm04618::ActImprimirExecute() {
 }
 
 void TForm04618::ActAtualizarRealizadoExecute() {
-    host::GZTUtilsDialogs.Informacao("A atualização do realizado ainda não faz parte desta versão.");
+    if (GetFormAtualizarRealizado().ShowModal() == TForm04618AtualizarRealizado::ResultadoVisualizar)
+        ActSelecionarExecute(&ActAtualizarRealizado);
+}
+
+std::string TForm04618::DescreverUltimaAtualizacao() const {
+    return FFormAtualizarRealizado ? FFormAtualizarRealizado->DescreverResultado() : std::string();
 }
 
 void TForm04618::FormDestroy() {
@@ -112,6 +123,7 @@ void TForm04618::FormDestroy() {
     DsMostraCtbOrcMensal.DataSet = nullptr;
     FDataModule.reset();
     FFormSelecao.reset();
+    FFormAtualizarRealizado.reset();
 }
 
 } // namespace pct04618

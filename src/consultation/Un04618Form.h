@@ -1,5 +1,6 @@
 #pragma once
 
+#include "actuals/Un04618FormAtualizarRealizado.h"
 #include "consultation/EstruturaGrades.h"
 #include "consultation/RegrasCelulas.h"
 #include "datamodule/Un04618Dm.h"
@@ -21,13 +22,15 @@ class TForm04618 final : public host::TFormZTTandorPadraoSelecao {
     // The entry into the module: makes the query module for the logged company, and sets up the grids. Nothing has been
     // asked of the user.
     void InitializeForm() override;
-    TDM04618& GetDm04618() const;        // after InitializeForm
-    TForm04618Selecao& GetFormSelecao(); // built when first asked for
+    TDM04618& GetDm04618() const;                              // after InitializeForm
+    TForm04618Selecao& GetFormSelecao();                       // built when first asked for
+    TForm04618AtualizarRealizado& GetFormAtualizarRealizado(); // likewise
 
     // Asks for a selection, runs it and shows its result. From ActAtualizarRealizado nobody is asked: the selection is
     // that of the query module, and an abort of its validation passes.
     void ActSelecionarExecute(host::TControle* ASender) override;
     host::TGrade* GradeEmVista() override;
+    std::string DescreverUltimaAtualizacao() const override;
     std::vector<host::TCriterio> Criterios() const override;
 
   private:
@@ -53,6 +56,7 @@ class TForm04618 final : public host::TFormZTTandorPadraoSelecao {
     host::TDataSource DsMostraCtbOrcada{"DsMostraCtbOrcada"};
     host::TDataSource DsMostraCtbOrcMensal{"DsMostraCtbOrcMensal"};
     std::unique_ptr<TForm04618Selecao> FFormSelecao;
+    std::unique_ptr<TForm04618AtualizarRealizado> FFormAtualizarRealizado;
     std::vector<host::TAssinatura> FAssinaturas;
 
     host::TAction ActAtualizarRealizado;

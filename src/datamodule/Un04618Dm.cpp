@@ -33,7 +33,8 @@ TDM04618::TDM04618() {
             "MESESPROJETADOS", "TPDETALHE", "TPCCUSTO"});
     DspCtbOrcadaVlr.LocalizaSoPelaChave = true;
     Papeis(SdsCtbOrcadaVlr, TPapelCampo::Chave,
-           {"IDCTBORCADAINF", "IDEMPRESA", "IDFILIAL", "IDPLANO", "IDPLANOSUB", "IDCENTROCUSTO", "IDDEMACTOT"});
+           {"IDCTBORCADAINF", "IDEMPRESA", "IDFILIAL", "IDPLANO", "IDPLANOSUB", "IDCENTROCUSTO", "IDDEMACTOT",
+            "IDCTBORCADAVLR"}); // the last tells rows of one key apart, which a database may hold
     Papeis(SdsCtbOrcadaVlr, TPapelCampo::Gravado,
            {"TPBASEPROJ", "TPATUALIZBASE", "INDICEATBASE", "TPPROJECAO", "VLRBASE", "VLRORCADO", "PERCORCADO",
             "VLRREALIZADO"});

@@ -124,6 +124,9 @@ void TZTClientDataSet::Post() {
         FAlteracoes[LLinha].Inserida = true;
     else
         FAlteracoes.try_emplace(LLinha, TAlteracao{false, ValoresDaLinha(LLinha)});
+    const bool LFica = !LNova && std::all_of(FCamposIndice.begin(), FCamposIndice.end(), [&](std::size_t I) {
+        return FColunas[I].Comparar(LLinha, (*FEdicao)[I]) == 0;
+    });
     for (std::size_t I = 0; I < FColunas.size(); ++I) {
         if (LNova)
             FColunas[I].Acrescentar((*FEdicao)[I]);
@@ -131,15 +134,17 @@ void TZTClientDataSet::Post() {
             FColunas[I].Atribuir(LLinha, (*FEdicao)[I]);
     }
     FEdicao.reset();
-    // The row takes its place in the index, which its new values may have moved.
+    if (LFica) {
+        MudarEstado(TEstadoDataSet::Navegando);
+        return;
+    }
+    // The row takes its place in the index, which its new values have moved.
     if (!LNova)
         FOrdem.erase(std::find(FOrdem.begin(), FOrdem.end(), LLinha));
     auto LLugar = FOrdem.end();
     if (!FCamposIndice.empty())
         LLugar = std::upper_bound(FOrdem.begin(), FOrdem.end(), LLinha,
                                   [this](std::size_t A, std::size_t B) { return Antes(A, B); });
-    else if (!LNova)
-        LLugar = std::lower_bound(FOrdem.begin(), FOrdem.end(), LLinha);
     LLugar = FOrdem.insert(LLugar, static_cast<std::uint32_t>(LLinha));
     Posicionar(static_cast<std::size_t>(LLugar - FOrdem.begin()));
     MudarEstado(TEstadoDataSet::Navegando);

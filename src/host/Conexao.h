@@ -78,9 +78,11 @@ class HOST_API TZTConnection {
     // before a failure stays in it for its holder to cancel.
     virtual TResultStatus ExecutouSQL(std::span<const TInstrucao> AInstrucoes, bool ADuravel) = 0;
 
-    // Writes the pending changes of all datasets in one transaction. Returns a message for each failure; none means
-    // that all is stored and the datasets have no pending change left. Otherwise nothing is stored.
-    virtual std::vector<std::string> AplicarAlteracoesNoBD(std::span<TZTClientDataSet* const> ADataSets) = 0;
+    // Writes the pending changes of all datasets. Returns a message for each failure; none means that all is written
+    // and the datasets have no pending change left. Durable: one transaction of their own, and nothing is stored
+    // where something failed. Otherwise they join the open transaction, which its holder then cancels.
+    virtual std::vector<std::string> AplicarAlteracoesNoBD(std::span<TZTClientDataSet* const> ADataSets,
+                                                           bool ADuravel) = 0;
 
     virtual TSQLConnection& GetSQLConnection() = 0;
     // Next key of the table, from its generator.

@@ -31,6 +31,8 @@ class HOST_API TControle {
     bool Visible() const { return FVisible; }
     void SetEnabled(bool AValor) { Mudar(FEnabled, AValor); }
     void SetVisible(bool AValor) { Mudar(FVisible, AValor); }
+    const std::string& Hint() const { return FHint; } // what it does, for who lingers on it
+    void SetHint(std::string ATexto) { Mudar(FHint, std::move(ATexto)); }
     const std::string& Caption() const { return FCaption; }
     void SetCaption(std::string ATexto) { Mudar(FCaption, std::move(ATexto)); }
 
@@ -53,6 +55,7 @@ class HOST_API TControle {
   private:
     std::string FNome;
     std::string FCaption;
+    std::string FHint;
     bool FEnabled = true;
     bool FVisible = true;
     TOuvintes FOuvintes;

@@ -30,8 +30,9 @@ int TZTUtilsDialogs::Confirmacao(const std::string& ATexto, int ATipoBotao, cons
 }
 
 int TZTUtilsDialogs::ConfirmacaoCustomizada(const std::string& ATexto, TNivelMensagem ANivel, int APadrao,
-                                            const std::string& ATitulo, std::vector<std::string> ABotoes) const {
-    return Servicos().Interacao->Mensagem({ANivel, ATitulo, ATexto, std::move(ABotoes), APadrao});
+                                            const std::string& ATitulo, std::vector<std::string> ABotoes,
+                                            const std::string& ADetalhes) const {
+    return Servicos().Interacao->Mensagem({ANivel, ATitulo, ATexto, std::move(ABotoes), APadrao, {}, ADetalhes});
 }
 
 using TTipo = TEventoProgresso::TTipo;

@@ -15,7 +15,8 @@ class HOST_API TZTUtilsDialogs {
     int Confirmacao(const std::string& ATexto, int ATipoBotao, const std::string& ATitulo) const;
     // Buttons by their captions.
     int ConfirmacaoCustomizada(const std::string& ATexto, TNivelMensagem ANivel, int APadrao,
-                               const std::string& ATitulo, std::vector<std::string> ABotoes) const;
+                               const std::string& ATitulo, std::vector<std::string> ABotoes,
+                               const std::string& ADetalhes = {}) const;
 };
 
 const inline TZTUtilsDialogs GZTUtilsDialogs;

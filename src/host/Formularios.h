@@ -118,6 +118,8 @@ class HOST_API TFormZTTandorPadraoSelecao : public TForm {
     virtual TGrade* GradeEmVista() { return nullptr; }
     // What the result in view was asked for, as every output of it says; the first is its title. None without a result.
     virtual std::vector<TCriterio> Criterios() const { return {}; }
+    // What the last update of a dialog of this window did, line by line; empty: nothing yet.
+    virtual std::string DescreverUltimaAtualizacao() const { return {}; }
     const TDMPadrao* DataModule() const { return FDataModule.get(); } // null before InitializeForm
 
   protected:

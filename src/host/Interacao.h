@@ -32,6 +32,7 @@ struct HOST_API TMensagem {
     std::vector<std::string> Botoes;
     int Padrao = TResposta::Primeira;            // the default button
     std::optional<base::TFalhaBanco> Causa = {}; // of the database, where the message tells of its failure
+    std::string Detalhes{};                      // for who asks for them: shown folded, or not at all
 };
 
 struct HOST_API TEventoProgresso {

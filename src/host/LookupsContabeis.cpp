@@ -8,7 +8,7 @@ namespace {
 
 constexpr const char* NaoEncontrado = "Registro não encontrado!";
 
-TDefinicaoLookup Filial(std::string ATextoZero) {
+TDefinicaoLookup Filial(std::string ATextoZero, bool AMultiSelecao) {
     return {
         .Titulo = "Pesquisa de estabelecimentos",
         .CampoPesquisa = "FILIAL",
@@ -21,7 +21,7 @@ TDefinicaoLookup Filial(std::string ATextoZero) {
                     {"NOME", "Razão Social"},
                     {"NOMEFANTASIA", "Nome Fantasia"},
                     {"IDFILIAL", "Registro"}},
-        .MultiSelecao = true,
+        .MultiSelecao = AMultiSelecao,
         .PermiteZero = true,
         .TextoZero = std::move(ATextoZero),
         .TextoNaoAchou = NaoEncontrado,
@@ -70,8 +70,8 @@ TDefinicaoLookup Conta() {
 
 } // namespace
 
-TframeZTLookupFilial::TframeZTLookupFilial(std::string ANome, std::string ATextoZero)
-    : TZTLookupEx(std::move(ANome), Filial(std::move(ATextoZero))) {
+TframeZTLookupFilial::TframeZTLookupFilial(std::string ANome, std::string ATextoZero, bool AMultiSelecao)
+    : TZTLookupEx(std::move(ANome), Filial(std::move(ATextoZero), AMultiSelecao)) {
     AntesDeBuscar = [this](TBusca& ABusca) {
         ABusca.Condicao = base::Format("SC00_FILIAL.IDEMPRESA = %d", {IDEmpresa()});
     };

@@ -9,7 +9,7 @@ namespace host {
 
 class HOST_API TframeZTLookupFilial : public TZTLookupEx {
   public:
-    TframeZTLookupFilial(std::string ANome, std::string ATextoZero);
+    TframeZTLookupFilial(std::string ANome, std::string ATextoZero, bool AMultiSelecao = true);
     std::function<std::int64_t()> IDEmpresa;
 };
 

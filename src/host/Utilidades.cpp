@@ -1,6 +1,7 @@
 #include "host/Utilidades.h"
 
 #include "base/Texto.h"
+#include "host/Controles.h"
 #include "host/DataSet.h"
 #include "host/Dialogos.h"
 #include "host/Servicos.h"
@@ -38,6 +39,15 @@ bool TZTUtilsValidacoes::ValidouData(std::string_view ATexto, const std::string&
 }
 
 void TZTUtilsControls::AtribuirFocoControle(TControle& AControle) { Servicos().Interacao->Focar(AControle); }
+
+bool TZTUtilsControls::EhUltimoControleAtivo(const TControle& AControle,
+                                             std::initializer_list<const TControle*> AGrupo) {
+    const TControle* LUltimo = nullptr;
+    for (const auto* LControle : AGrupo)
+        if (LControle->PodeReceberFoco())
+            LUltimo = LControle;
+    return LUltimo == &AControle;
+}
 
 int TZTUtilsMatematica::SomarCombinacaoBinaria(std::initializer_list<bool> AOpcoes) {
     int LSoma = 0;

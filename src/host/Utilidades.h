@@ -38,6 +38,8 @@ struct HOST_API TZTUtilsValidacoes {
 
 struct HOST_API TZTUtilsControls {
     static void AtribuirFocoControle(TControle& AControle);
+    // Whether no other control of the group, in its order, can take the focus behind this one.
+    static bool EhUltimoControleAtivo(const TControle& AControle, std::initializer_list<const TControle*> AGrupo);
 };
 
 struct HOST_API TZTUtilsMatematica {

@@ -282,7 +282,7 @@ TEST_F(Consulta, EventosDaoFormatosEChaves) {
     d.CdsCtbOrcadaVlr.FieldByName("VLRREALIZADO").Atribuir(base::Inteiro(7));
     d.CdsCtbOrcadaVlr.Post();
     host::TZTClientDataSet* const alterados[] = {&d.CdsCtbOrcadaVlr};
-    EXPECT_EQ(Lista{}, host::ZTConnection().AplicarAlteracoesNoBD(alterados));
+    EXPECT_EQ(Lista{}, host::ZTConnection().AplicarAlteracoesNoBD(alterados, true));
     EXPECT_EQ((Lista{"Vendas|10.000000|7.000000", "Energia|0.000000|-30.120000"}),
               Linhas({"NOMECONTA", "VLRORCADO", "VLRREALIZADO"}));
 }

@@ -139,7 +139,7 @@ class CdsUsuario {
 
 std::vector<std::string> Aplicar(host::TZTConnection& conexao, host::TZTClientDataSet& cds) {
     host::TZTClientDataSet* const lista[] = {&cds};
-    return conexao.AplicarAlteracoesNoBD(lista);
+    return conexao.AplicarAlteracoesNoBD(lista, true);
 }
 
 } // namespace
@@ -313,6 +313,27 @@ TEST(Servicos, AlteracoesSaoGravadasPelaChaveTodasOuNenhuma) {
     EXPECT_NE(std::string::npos, mensagens[0].find("excluído por outro usuário")) << mensagens[0];
     usuarios.renomear("Žižka");
     EXPECT_NE(std::string::npos, Aplicar(*conexao, usuarios.cds)[0].find("US09_USUARIO.NOME"));
+}
+
+TEST(Servicos, AlteracoesEntramNaTransacaoAbertaETambemMudamAChave) {
+    const Copia copia(Base::Vazia);
+    const auto conexao = copia.conectar();
+    CdsUsuario usuario(*conexao);
+    host::TZTClientDataSet* const lista[] = {&usuario.cds};
+    usuario.cds.Open();
+    usuario.incluir(1, "Ana");
+    EXPECT_NE(std::vector<std::string>{}, conexao->AplicarAlteracoesNoBD(lista, false)) << "there is no transaction";
+    {
+        const auto transacao = conexao->IniciarTransacao();
+        EXPECT_EQ(std::vector<std::string>{}, conexao->AplicarAlteracoesNoBD(lista, false));
+        usuario.cds.Edit();
+        usuario.cds.FieldByName("IDUSUARIO").Atribuir(Inteiro(7));
+        usuario.cds.Post();
+        EXPECT_EQ(std::vector<std::string>{}, conexao->AplicarAlteracoesNoBD(lista, false));
+        EXPECT_EQ("7", TextoDe(Valor(*conexao, "SELECT SUM(IDUSUARIO) FROM US09_USUARIO")));
+        conexao->CancelarTransacao(*transacao);
+    }
+    EXPECT_EQ("0", TextoDe(Valor(*conexao, Usuarios)));
 }
 
 TEST(Servicos, QualquerChamadaQueFalhePassaSemDeixarMetade) {

@@ -1,34 +1,36 @@
 // The generation of totals on a real engine: the rows that it writes, and what stands when it is stopped at any point.
+#include "banco/Adversidades.h"
 #include "banco/TotalizacaoFixture.h"
 #include "suite/firebird/Api.h"
 #include "suite/firebird/Statement.h"
 
 #include <algorithm>
 #include <chrono>
-#include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
-#include <fstream>
 #include <future>
-#include <pwd.h>
 #include <set>
-#include <sstream>
 #include <sys/ptrace.h>
-#include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 
+using apoio::Esperar;
 using apoio::Gerar;
 using apoio::Lista;
+using apoio::NomeDoComputador;
+using apoio::Pasta;
 using apoio::Rodada;
+using apoio::Segurar;
+using apoio::Servidor;
+using apoio::Texto;
 using apoio::Totalizacao;
+using apoio::UsuarioDoSistema;
 using base::TTipoFalhaBanco;
+namespace fs = std::filesystem;
 using host::TEventoProgresso;
 using namespace suite::firebird;
 
 namespace {
-
-namespace fs = std::filesystem;
 
 constexpr const char* Janeiro = "Gerando totalizações Relatório 50 para 01/01/2024 a 31/01/2024";
 constexpr const char* Fevereiro = "Gerando totalizações Relatório 50 para 01/02/2024 a 29/02/2024";
@@ -70,22 +72,6 @@ bool EhTexto(const TEventoProgresso& evento, const char* texto) {
     return evento.Tipo == TEventoProgresso::TTipo::Texto && evento.Texto == texto;
 }
 
-std::string UsuarioDoSistema() { return ::getpwuid(::geteuid())->pw_name; }
-
-std::string NomeDoComputador() {
-    char nome[256] = "";
-    ::gethostname(nome, sizeof nome - 1);
-    return nome;
-}
-
-// Holds the header row of the projection, as a rebuild does, until the transaction ends.
-void Segurar(Transaction& transacao, int projecao) {
-    queryValue(transacao,
-               "SELECT IDCTBORCADAINF FROM CO01_CTBORCADAINF WHERE IDCTBORCADAINF = " + std::to_string(projecao) +
-                   " WITH LOCK",
-               "dele");
-}
-
 // The program over statement 50 in projections 1 and 2, with new totals; its complaints go to the file.
 pid_t IniciarPrograma(const std::string& alvo, const fs::path& pastaLog, const fs::path& erros,
                       bool observado = false) {
@@ -104,74 +90,6 @@ pid_t IniciarPrograma(const std::string& alvo, const fs::path& pastaLog, const f
             "29/02/2024", "--totais", "reatualizar", "--dependencias", "selecionado", nullptr);
     ::_exit(127);
 }
-
-// Lets a followed process go on wherever it stops.
-int Esperar(pid_t filho) {
-    int estado = 0;
-    while (::waitpid(filho, &estado, 0) == filho && WIFSTOPPED(estado)) {
-        const int sinal = WSTOPSIG(estado);
-        ::ptrace(PTRACE_CONT, filho, nullptr, reinterpret_cast<void*>(sinal == SIGTRAP ? 0L : long{sinal}));
-    }
-    return WIFEXITED(estado) ? WEXITSTATUS(estado) : 128 + WTERMSIG(estado);
-}
-
-std::string Texto(const fs::path& arquivo) {
-    std::stringstream texto;
-    texto << std::ifstream(arquivo, std::ios::binary).rdbuf();
-    return texto.str();
-}
-
-// A folder of one test, gone with it.
-class Pasta {
-  public:
-    Pasta() {
-        std::string nome = (fs::temp_directory_path() / "orcreal-XXXXXX").string();
-        caminho = ::mkdtemp(nome.data());
-    }
-    ~Pasta() {
-        std::error_code ignorado;
-        fs::remove_all(caminho, ignorado);
-    }
-    Pasta(const Pasta&) = delete;
-    Pasta& operator=(const Pasta&) = delete;
-    fs::path caminho;
-};
-
-// A server of one test's own, which it may kill.
-class Servidor {
-  public:
-    Servidor() { Comandar("iniciar"); }
-    ~Servidor() { Comandar("parar"); }
-    Servidor(const Servidor&) = delete;
-    Servidor& operator=(const Servidor&) = delete;
-
-    void Reiniciar() { Comandar("iniciar"); }
-    void Matar() const {
-        const auto pid = std::stoi(Texto(raiz() / "pid"));
-        ::kill(pid, SIGKILL);
-        const auto situacao = fs::path("/proc") / std::to_string(pid) / "stat"; // a zombie until it is collected
-        while (fs::exists(situacao) && Texto(situacao).find(") Z ") == std::string::npos)
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    }
-    std::unique_ptr<Connection> Conectar(const fs::path& arquivo) const {
-        return std::make_unique<Connection>(
-            Target("127.0.0.1/" + Ambiente("ORCREAL_TESTE_PORTA") + ":" + arquivo.string()),
-            Credentials{"SYSDBA", Ambiente("ORCREAL_SENHA")});
-    }
-
-  private:
-    fs::path raiz() const { return pasta_.caminho / "servidor"; }
-    void Comandar(const std::string& acao) {
-        const auto comando = std::string(ORCREAL_SERVIDOR_TESTE " ") + acao + " '" + raiz().string() + "'";
-        EXPECT_EQ(0, std::system(comando.c_str()));
-    }
-    std::string Ambiente(const std::string& nome) const {
-        const auto texto = Texto(raiz() / "ambiente");
-        const auto inicio = texto.find(nome + "=") + nome.size() + 1;
-        return texto.substr(inicio, texto.find('\n', inicio) - inicio);
-    }
-    Pasta pasta_;
-};
 
 } // namespace
 

@@ -546,7 +546,7 @@ TEST_F(JanelaDoModulo, ConexaoRefeitaSobAsMesmasFormasESelecaoFica) {
         void FinalizarTransacao(host::TZTTransacao&) override { throw perdida(); }
         void CancelarTransacao(host::TZTTransacao&) override {}
         host::TResultStatus ExecutouSQL(std::span<const host::TInstrucao>, bool) override { throw perdida(); }
-        std::vector<std::string> AplicarAlteracoesNoBD(std::span<host::TZTClientDataSet* const>) override {
+        std::vector<std::string> AplicarAlteracoesNoBD(std::span<host::TZTClientDataSet* const>, bool) override {
             throw perdida();
         }
         host::TSQLConnection& GetSQLConnection() override { return caida_; }

@@ -56,7 +56,9 @@ class Surda : public host::TZTConnection, public host::TSQLConnection {
     void FinalizarTransacao(host::TZTTransacao&) override {}
     void CancelarTransacao(host::TZTTransacao&) override {}
     host::TResultStatus ExecutouSQL(std::span<const host::TInstrucao>, bool) override { return {}; }
-    std::vector<std::string> AplicarAlteracoesNoBD(std::span<host::TZTClientDataSet* const>) override { return {}; }
+    std::vector<std::string> AplicarAlteracoesNoBD(std::span<host::TZTClientDataSet* const>, bool) override {
+        return {};
+    }
     host::TSQLConnection& GetSQLConnection() override { return *this; }
     std::int64_t BuscarProximoID(std::string_view) override { return 1; }
     std::unique_ptr<host::TCursor> AbrirCursor(const host::TInstrucao&) override {

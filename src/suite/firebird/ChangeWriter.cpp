@@ -33,6 +33,7 @@ class Writer {
 
   private:
     using Columns = std::vector<std::size_t>;
+    using Values = std::vector<base::TValor>;
 
     const host::TColuna& column(std::size_t i) const { return dataSet_.Colunas()[i]; }
     const std::string& name(std::size_t i) const { return column(i).Descricao().Nome; }
@@ -43,24 +44,28 @@ class Writer {
 
     void insert(std::size_t row) {
         Columns written;
-        for (std::size_t i = 0; i < dataSet_.Colunas().size(); ++i)
-            if (column(i).Descricao().Tabela == table_ && !column(i).Nulo(row))
-                written.push_back(i);
+        Values values;
         std::string names;
         std::string marks;
-        for (const auto i : written) {
-            names += (names.empty() ? "" : ", ") + name(i);
-            marks += marks.empty() ? "?" : ", ?";
-        }
-        run("INSERT INTO " + table_ + " (" + names + ") VALUES (" + marks + ")", written, row);
+        for (std::size_t i = 0; i < dataSet_.Colunas().size(); ++i)
+            if (column(i).Descricao().Tabela == table_ && !column(i).Nulo(row)) {
+                written.push_back(i);
+                values.push_back(column(i).Valor(row));
+                names += (names.empty() ? "" : ", ") + name(i);
+                marks += marks.empty() ? "?" : ", ?";
+            }
+        run("INSERT INTO " + table_ + " (" + names + ") VALUES (" + marks + ")", written, values);
     }
 
-    void update(std::size_t row, const std::vector<base::TValor>& before) {
+    // Finds the row by the key that it had.
+    void update(std::size_t row, const Values& before) {
         Columns parameters;
+        Values values;
         std::string assignments;
         for (std::size_t i = 0; i < before.size(); ++i)
-            if (role(i) == host::TPapelCampo::Gravado && column(i).Comparar(row, before[i]) != 0) {
+            if (role(i) && column(i).Comparar(row, before[i]) != 0) {
                 parameters.push_back(i);
+                values.push_back(column(i).Valor(row));
                 assignments += (assignments.empty() ? "" : ", ") + name(i) + " = ?";
             }
         if (parameters.empty())
@@ -69,16 +74,18 @@ class Writer {
         for (std::size_t i = 0; i < before.size(); ++i)
             if (role(i) == host::TPapelCampo::Chave) {
                 parameters.push_back(i);
+                values.push_back(before[i]);
                 condition += (condition.empty() ? "" : " AND ") + name(i) + " IS NOT DISTINCT FROM ?";
             }
-        const auto affected = run("UPDATE " + table_ + " SET " + assignments + " WHERE " + condition, parameters, row);
+        const auto affected =
+            run("UPDATE " + table_ + " SET " + assignments + " WHERE " + condition, parameters, values);
         if (affected != 1)
             throw base::TFalha(affected == 0
                                    ? "Um registro de " + table_ + " foi excluído por outro usuário; nada foi gravado."
                                    : "Um registro de " + table_ + " tem a chave repetida no banco; nada foi gravado.");
     }
 
-    std::uint64_t run(const std::string& text, const Columns& columns, std::size_t row) {
+    std::uint64_t run(const std::string& text, const Columns& columns, const Values& values) {
         if (text != text_) { // rows of one kind come in runs
             text_ = text;
             statement_.emplace(transaction_, text, "gravação de " + dataSet_.Nome());
@@ -87,9 +94,6 @@ class Writer {
                 labels.push_back(table_ + "." + name(i));
             statement_->nameParameters(std::move(labels));
         }
-        std::vector<base::TValor> values;
-        for (const auto i : columns)
-            values.push_back(column(i).Valor(row));
         statement_->execute(transaction_, values);
         return statement_->affectedRows();
     }

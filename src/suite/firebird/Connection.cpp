@@ -109,21 +109,24 @@ std::unique_ptr<host::TCursor> Connection::AbrirCursor(const host::TInstrucao& s
     return std::make_unique<DataSetCursor>(attachment_, openTransaction(), statement);
 }
 
-void Connection::ExecuteDirect(const std::string& text) {
-    auto* transaction = openTransaction();
+Transaction& Connection::writeTransaction(std::optional<Transaction>& own, bool durable) {
+    auto* transaction = durable ? &own.emplace(attachment_, TransactionMode::ReadWrite) : openTransaction();
     if (!transaction)
         throw base::TFalha("Não há transação aberta para a gravação.");
-    execute(*transaction, text, "ExecuteDirect");
+    return *transaction;
+}
+
+void Connection::ExecuteDirect(const std::string& text) {
+    std::optional<Transaction> none;
+    execute(writeTransaction(none, false), text, "ExecuteDirect");
 }
 
 host::TResultStatus Connection::ExecutouSQL(std::span<const host::TInstrucao> statements, bool durable) {
     try {
         std::optional<Transaction> own;
-        auto* transaction = durable ? &own.emplace(attachment_, TransactionMode::ReadWrite) : openTransaction();
-        if (!transaction)
-            throw base::TFalha("Não há transação aberta para a gravação.");
+        auto& transaction = writeTransaction(own, durable);
         for (const auto& statement : statements)
-            execute(*transaction, statement.Texto, statement.Nome);
+            execute(transaction, statement.Texto, statement.Nome);
         if (own)
             own->commit();
         return {};
@@ -134,12 +137,15 @@ host::TResultStatus Connection::ExecutouSQL(std::span<const host::TInstrucao> st
     }
 }
 
-std::vector<std::string> Connection::AplicarAlteracoesNoBD(std::span<host::TZTClientDataSet* const> dataSets) {
+std::vector<std::string> Connection::AplicarAlteracoesNoBD(std::span<host::TZTClientDataSet* const> dataSets,
+                                                           bool durable) {
     try {
-        Transaction transaction(attachment_, TransactionMode::ReadWrite);
+        std::optional<Transaction> own;
+        auto& transaction = writeTransaction(own, durable);
         for (const auto* dataSet : dataSets)
             writeChanges(transaction, *dataSet);
-        transaction.commit();
+        if (own)
+            own->commit();
     } catch (const base::TFalha& failure) {
         return {failure.what()};
     }
@@ -148,22 +154,27 @@ std::vector<std::string> Connection::AplicarAlteracoesNoBD(std::span<host::TZTCl
     return {};
 }
 
-std::string Connection::generatorOf(const std::string& table) {
-    if (const auto known = generators_.find(table); known != generators_.end())
+Statement& Connection::nextKeyOf(Transaction& transaction, const std::string& table) {
+    if (const auto known = nextKeys_.find(table); known != nextKeys_.end())
         return known->second;
-    Transaction transaction(attachment_, TransactionMode::ReadOnly);
-    const auto name = findGenerator(transaction, table);
-    if (name.empty())
+    const auto generator = findGenerator(transaction, table);
+    if (generator.empty())
         throw base::TFalha("A tabela " + table + " não tem gerador de chaves neste banco de dados.");
-    return generators_[table] = name;
+    return nextKeys_
+        .emplace(table, Statement(transaction, "SELECT GEN_ID(\"" + generator + "\", 1) FROM RDB$DATABASE",
+                                  "próxima chave de " + table))
+        .first->second;
 }
 
+// A key once given is never given again, whatever becomes of the transaction in which it was asked for.
 std::int64_t Connection::BuscarProximoID(std::string_view table) {
-    const auto generator = generatorOf(std::string(table));
-    Transaction transaction(attachment_, TransactionMode::ReadOnly);
-    const auto value = queryValue(transaction, "SELECT GEN_ID(\"" + generator + "\", 1) FROM RDB$DATABASE",
-                                  "próxima chave de " + std::string(table));
-    return std::get<base::TDecimal>(value).Unidades;
+    std::optional<Transaction> own;
+    auto* open = openTransaction();
+    auto& transaction = open ? *open : own.emplace(attachment_, TransactionMode::ReadOnly);
+    auto cursor = nextKeyOf(transaction, std::string(table)).open(transaction);
+    host::TColunas key(cursor.columns().begin(), cursor.columns().end());
+    cursor.read(key, 1);
+    return std::get<base::TDecimal>(key.front().Valor(0)).Unidades;
 }
 
 } // namespace suite::firebird

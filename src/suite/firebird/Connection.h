@@ -2,9 +2,11 @@
 
 #include "host/Conexao.h"
 #include "suite/firebird/Attachment.h"
+#include "suite/firebird/Statement.h"
 #include "suite/firebird/Transaction.h"
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,7 +27,8 @@ class Connection final : public host::TZTConnection, public host::TSQLConnection
     void FinalizarTransacao(host::TZTTransacao& transaction) override;
     void CancelarTransacao(host::TZTTransacao& transaction) override;
     host::TResultStatus ExecutouSQL(std::span<const host::TInstrucao> statements, bool durable) override;
-    std::vector<std::string> AplicarAlteracoesNoBD(std::span<host::TZTClientDataSet* const> dataSets) override;
+    std::vector<std::string> AplicarAlteracoesNoBD(std::span<host::TZTClientDataSet* const> dataSets,
+                                                   bool durable) override;
     host::TSQLConnection& GetSQLConnection() override { return *this; }
     std::int64_t BuscarProximoID(std::string_view table) override;
 
@@ -39,11 +42,13 @@ class Connection final : public host::TZTConnection, public host::TSQLConnection
 
     std::unique_ptr<host::TZTTransacao> begin(TransactionMode mode);
     Transaction* openTransaction() const; // null when there is none
-    std::string generatorOf(const std::string& table);
+    // The transaction of a write: one of its own where it is durable, else the open one. Throws without any.
+    Transaction& writeTransaction(std::optional<Transaction>& own, bool durable);
+    Statement& nextKeyOf(Transaction& transaction, const std::string& table);
 
     Attachment attachment_;
-    std::vector<Held*> open_; // in the order of their beginning
-    std::map<std::string, std::string, std::less<>> generators_;
+    std::vector<Held*> open_;                                // in the order of their beginning
+    std::map<std::string, Statement, std::less<>> nextKeys_; // by table, prepared at first use
 };
 
 } // namespace suite::firebird

@@ -6,28 +6,18 @@
 #include "host/Grade.h"
 #include "suite/export/Formats.h"
 #include "suite/program/FillSelection.h"
+#include "suite/program/Outputs.h"
 #include "suite/program/Session.h"
 #include "suite/terminal/TableText.h"
 
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <sys/ioctl.h>
 #include <unistd.h>
 
 namespace suite::program {
 
 namespace {
-
-constexpr std::size_t DefaultWidth = 120;
-
-// Of the terminal, or of a page where there is none.
-std::size_t tableWidth(bool terminal) {
-    winsize size{};
-    if (terminal && ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0)
-        return std::max<std::size_t>(size.ws_col, 80);
-    return DefaultWidth;
-}
 
 struct Result {
     const table::Table& table;

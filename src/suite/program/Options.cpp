@@ -97,6 +97,26 @@ void addConsultOptions(CLI::App& command, ConsultOptions& options) {
     add("--saida", options.output, "grava o resultado no arquivo F", "F")->check(notEmpty());
 }
 
+void addActualsOptions(CLI::App& command, ActualsOptions& options) {
+    command.add_option("--de", options.from, "data inicial, o primeiro dia de um mês")->type_name("dd/mm/aaaa");
+    command.add_option("--ate", options.to, "data final, o último dia de um mês")->type_name("dd/mm/aaaa");
+    command.add_option("--cenarios", options.scenarios, "0 normal (padrão), 1 otimista, 2 pessimista")
+        ->type_name("N,N")
+        ->transform(list(number(0, 2)));
+    command
+        .add_option("--confrontar", options.confront,
+                    "mensais: cada mês com as projeções desse mês (padrão); periodo: o período todo, de uma vez")
+        ->type_name("C")
+        ->check(oneOf({"mensais", "periodo"}));
+    command
+        .add_option("--estabelecimento", options.establishment, "um só estabelecimento, pelo número (padrão: todos)")
+        ->type_name("N")
+        ->transform(number(1, LargestCode));
+    command.add_option("--formato", options.format, "o que mudou, em tabela (padrão) ou json")
+        ->type_name("T")
+        ->check(oneOf({"tabela", "json"}));
+}
+
 } // namespace
 
 std::filesystem::path defaultDemoFile() { return userFolder("XDG_DATA_HOME", ".local/share") / "demonstracao.fdb"; }
@@ -105,6 +125,7 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::functi
     Options options;
     std::string passwordFile;
     ConsultOptions consult;
+    ActualsOptions actuals;
     DemoOptions demo;
     ScriptOptions script;
 
@@ -148,6 +169,18 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::functi
     auto* consultCommand = app.add_subcommand("consultar", "faz uma consulta e mostra suas linhas");
     addConsultOptions(*consultCommand, consult);
 
+    auto* actualsCommand =
+        app.add_subcommand("realizado", "atualiza o realizado das projeções pelo diário, ou o exclui");
+    actualsCommand->require_subcommand(1);
+    auto* updateCommand = actualsCommand->add_subcommand("atualizar", "confronta as projeções com o diário");
+    auto* removeCommand = actualsCommand->add_subcommand("excluir", "zera o realizado das projeções");
+    addActualsOptions(*updateCommand, actuals);
+    addActualsOptions(*removeCommand, actuals);
+    updateCommand->add_flag("--totais", actuals.totals, "gera de novo os totais das demonstrações que já os tinham")
+        ->multi_option_policy(CLI::MultiOptionPolicy::Throw);
+    removeCommand->add_flag("--sim", actuals.confirmed, "não pergunta antes de excluir")
+        ->multi_option_policy(CLI::MultiOptionPolicy::Throw);
+
     auto* demoCommand = app.add_subcommand("demo", "cria o banco de dados de demonstração");
     demoCommand->add_option("--destino", demo.destination, "arquivo a criar (padrão: na pasta de dados do usuário)")
         ->type_name("F")
@@ -163,7 +196,8 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::functi
         ->required()
         ->check(readable());
     auto* verifyCommand = app.add_subcommand("verificar", "diz se o banco de dados serve, e o que lhe falta");
-    for (auto* command : {windowCommand, consultCommand, demoCommand, scriptCommand, verifyCommand}) {
+    for (auto* command : {windowCommand, consultCommand, actualsCommand, updateCommand, removeCommand, demoCommand,
+                          scriptCommand, verifyCommand}) {
         command->group("Comandos");
         command->set_help_flag("-h,--help,--ajuda", "mostra esta ajuda")->group("Opções do comando");
         command->formatter(app.get_formatter());
@@ -186,6 +220,8 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::functi
     } catch (const CLI::ConfigError& error) {
         return wrongUse("O arquivo de opções tem uma linha que não se entende: " + behind(error.what(), "parse "));
     } catch (const CLI::RequiredError&) {
+        if (actualsCommand->parsed())
+            return wrongUse("O comando realizado pede atualizar ou excluir");
         return wrongUse("Falta o arquivo do roteiro; \"-\" lê a entrada padrão");
     } catch (const CLI::ArgumentMismatch& error) {
         const std::string text = error.what();
@@ -198,6 +234,10 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::functi
     options.credentials.password = readPassword(passwordFile);
     if (consultCommand->parsed())
         options.consult = consult;
+    if (actualsCommand->parsed()) {
+        actuals.remove = removeCommand->parsed();
+        options.actuals = actuals;
+    }
     if (demoCommand->parsed())
         options.demo = demo;
     if (scriptCommand->parsed())

@@ -35,6 +35,19 @@ struct ConsultOptions {
     std::string output;    // a file; empty for standard output
 };
 
+// The two deeds of the actuals dialog, and with what it is filled.
+struct ActualsOptions {
+    bool remove = false; // else update
+    std::string from;
+    std::string to;
+    std::string scenarios = "0";
+    std::string confront = "mensais";
+    std::string establishment;
+    bool totals = false;    // of update: regenerates those that the run has made stale
+    bool confirmed = false; // of remove: does not ask
+    std::string format = "tabela";
+};
+
 struct DemoOptions {
     std::string destination; // empty: the user's data folder
     int scale = 1;
@@ -50,6 +63,7 @@ struct Options {
     firebird::Credentials credentials;
     LoginRequest login;
     std::optional<ConsultOptions> consult;
+    std::optional<ActualsOptions> actuals;
     std::optional<DemoOptions> demo;
     std::optional<ScriptOptions> script;
     bool verify = false;

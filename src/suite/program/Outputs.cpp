@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <ctime>
 #include <string_view>
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 namespace suite::program {
 
@@ -40,5 +42,13 @@ const exporting::Exporter& exporter() {
 }
 
 exporting::Origin originNow(const std::string& database) { return {"orcreal " ORCREAL_VERSAO, database, now()}; }
+
+std::size_t tableWidth(bool terminal) {
+    constexpr std::size_t Page = 120;
+    winsize size{};
+    if (terminal && ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0)
+        return std::max<std::size_t>(size.ws_col, 80);
+    return Page;
+}
 
 } // namespace suite::program

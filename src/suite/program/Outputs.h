@@ -11,4 +11,7 @@ const exporting::Exporter& exporter();
 // so that the same data gives the same bytes.
 exporting::Origin originNow(const std::string& database);
 
+// Characters of a line of standard output: of its terminal, or of a page where there is none.
+std::size_t tableWidth(bool terminal);
+
 } // namespace suite::program

@@ -4,6 +4,7 @@
 #include "base/Texto.h"
 #include "demo/Demo.h"
 #include "suite/firebird/Connection.h"
+#include "suite/program/ActualsCommand.h"
 #include "suite/program/ConsultCommand.h"
 #include "suite/program/DesktopCommand.h"
 #include "suite/program/Interrupt.h"
@@ -85,8 +86,9 @@ ExitCode runOnDatabase(const Options& options, Interrupt& interrupt) {
     const Module module(moduleFile());
     const auto stop = [&] { return interrupt.requested(); };
     const auto origin = [&] { return originNow(target.text()); };
-    const auto code = options.script ? runScript(*options.script, {exporter(), origin}, stop)
-                                     : runConsult(*options.consult, {exporter(), origin}, interaction);
+    const auto code = options.script    ? runScript(*options.script, {exporter(), origin}, stop)
+                      : options.actuals ? runActuals(*options.actuals, interaction)
+                                        : runConsult(*options.consult, {exporter(), origin}, interaction);
     return code != ExitCode::Done && interrupt.requested() ? ExitCode::Cancelled : code;
 }
 
@@ -103,7 +105,7 @@ std::string versionOfAll() {
 ExitCode runCommand(const Options& options, Interrupt& interrupt) {
     if (options.demo)
         return runDemo(*options.demo, interrupt);
-    if (options.consult || options.script || options.verify)
+    if (options.consult || options.actuals || options.script || options.verify)
         return runOnDatabase(options, interrupt);
     return runDesktopCommand(options, interrupt);
 }

@@ -34,21 +34,22 @@ const host::TGrade& requireGrid(host::TFormZTTandorPadraoSelecao& window) {
     throw WrongUse("Nenhuma grade está à vista.");
 }
 
-// Those of the query module, and what else the window shows.
-std::vector<const host::TDataSet*> dataSetsOf(const host::TFormZTTandorPadraoSelecao& window) {
+// Those of the query module, and what else the window and the form in front show.
+std::vector<const host::TDataSet*> dataSetsOf(const View& view) {
     std::vector<const host::TDataSet*> known;
-    if (window.DataModule())
-        for (const auto* dataSet : window.DataModule()->DataSets())
+    if (view.window.DataModule())
+        for (const auto* dataSet : view.window.DataModule()->DataSets())
             known.push_back(dataSet);
-    for (const auto* source : window.Fontes())
-        if (source->DataSet && std::find(known.begin(), known.end(), source->DataSet) == known.end())
-            known.push_back(source->DataSet);
+    for (const host::TForm* form : {static_cast<const host::TForm*>(&view.window), &view.front})
+        for (const auto* source : form->Fontes())
+            if (source->DataSet && std::find(known.begin(), known.end(), source->DataSet) == known.end())
+                known.push_back(source->DataSet);
     return known;
 }
 
-const host::TDataSet& findDataSet(const host::TFormZTTandorPadraoSelecao& window, const std::string& name) {
+const host::TDataSet& findDataSet(const View& view, const std::string& name) {
     std::string list;
-    for (const auto* dataSet : dataSetsOf(window)) {
+    for (const auto* dataSet : dataSetsOf(view)) {
         if (dataSet->Nome() == name)
             return *dataSet;
         list += (list.empty() ? "" : ", ") + dataSet->Nome();
@@ -102,7 +103,7 @@ void showRows(JsonLines& out, const View& view, const std::string& rest) {
     if (rest == PrintedRows)
         notYet("A impressão");
     if (!rest.empty())
-        return out.writeRows(findDataSet(view.window, rest));
+        return out.writeRows(findDataSet(view, rest));
     const auto* rows = requireGrid(view.window).DataSet();
     if (!rows)
         throw WrongUse("A grade à vista não tem dados.");
@@ -132,7 +133,7 @@ void showCells(JsonLines& out, const View& view, const std::string& rest) {
 void showCommand(JsonLines& out, const View& view, const std::string& rest) {
     if (rest.empty())
         throw WrongUse("O passo se escreve \"mostrar comando DATASET\".");
-    const auto* dataSet = dynamic_cast<const host::TZTClientDataSet*>(&findDataSet(view.window, rest));
+    const auto* dataSet = dynamic_cast<const host::TZTClientDataSet*>(&findDataSet(view, rest));
     if (!dataSet)
         throw WrongUse(rest + " não recebe comandos.");
     exporting::JsonObject members;

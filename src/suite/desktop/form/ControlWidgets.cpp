@@ -111,7 +111,10 @@ QString captionOf(const host::TAction& action) {
 QWidget* button(host::TAction& action, FormBinding& binding, QWidget* parent) {
     auto* widget = new QPushButton(parent);
     QObject::connect(widget, &QPushButton::clicked, &binding, [&action, &binding] { binding.execute(action); });
-    return following(action, widget, binding, [&action, widget] { widget->setText(captionOf(action)); });
+    return following(action, widget, binding, [&action, widget] {
+        widget->setText(captionOf(action));
+        widget->setToolTip(fromUtf8(action.Hint()));
+    });
 }
 
 QWidget* panel(host::TPanel& control, FormBinding& binding, QWidget* parent) {

@@ -89,8 +89,10 @@ bool isSwatch(const host::TControle& control) {
 } // namespace
 
 DialogLayout layoutOf(const host::TForm& form) {
-    auto selection = selectionLayout();
-    return form.Nome() == selection.form ? selection : generatedLayout(form);
+    for (const auto& layout : {selectionLayout(), actualsLayout()})
+        if (layout.form == form.Nome())
+            return layout;
+    return generatedLayout(form);
 }
 
 DialogLayout generatedLayout(const host::TForm& form) {

@@ -34,6 +34,7 @@ struct DialogLayout {
 // The layout made for a form, otherwise one generated from the order of its controls.
 DialogLayout layoutOf(const host::TForm& form);
 DialogLayout selectionLayout();
+DialogLayout actualsLayout();
 DialogLayout generatedLayout(const host::TForm& form);
 
 // Places the widgets. A name that the form does not have is its TFalha; a control that stands nowhere stays unbound.

@@ -27,6 +27,11 @@ DialogWindow::DialogWindow(host::TFormZTTandorPadraoResult& form, QWidget* paren
     placeWidgets(layout, binding_, *this);
     dressButtons(layout.buttons);
     binding_.giveUpBy(form_.Acao(Leave));
+    if (dynamic_cast<const host::TFormZTTandorPadraoCalculos*>(&form)) {
+        binding_.actionsLeaveNothing();
+        for (const auto& name : layout.buttons)
+            binding_.widget(name)->setFocusPolicy(Qt::NoFocus);
+    }
     binding_.chainTabs();
     darkenDisabled();
 }

@@ -157,7 +157,8 @@ void FormBinding::attempt(const std::function<void()>& deed) {
 
 void FormBinding::execute(host::TAction& action) {
     const Deed running(*this);
-    if (&action == giveUp_ || leaveCurrent())
+    const bool ready = &action == giveUp_ || (actionsLeave_ ? leaveCurrent() : !current_ || commit(*current_));
+    if (ready)
         attempt([&] { form_.Executar(action); });
 }
 

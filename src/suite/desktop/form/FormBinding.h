@@ -54,6 +54,8 @@ class FormBinding : public QObject {
     void execute(host::TAction& action);
     // Leaves the field in which the user is; false when that was refused.
     bool leaveCurrent();
+    // The actions of a bar that takes no focus: what was typed reaches its field, and no field is left for them.
+    void actionsLeaveNothing() { actionsLeave_ = false; }
     // The action by which the user gives up: it leaves no field.
     void giveUpBy(host::TAction& action);
     bool busy() const { return deeds_ > 0; }
@@ -108,6 +110,7 @@ class FormBinding : public QObject {
     int deeds_ = 0;           // under way, one in another
     int blocks_ = 0;          // times that a modal window stood before this one
     bool placing_ = false;
+    bool actionsLeave_ = true;
     bool swallow_ = false; // the press of the mouse under way
 };
 

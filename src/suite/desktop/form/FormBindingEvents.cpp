@@ -65,7 +65,7 @@ bool FormBinding::eventFilter(QObject* watched, QEvent* event) {
 // may enable it.
 bool FormBinding::mousePressed(host::TControle& control) {
     auto* target = widgets_[control.Nome()];
-    if (&control == giveUp_)
+    if (&control == giveUp_ || (!actionsLeave_ && dynamic_cast<host::TAction*>(&control)))
         return false;
     if (&control == current_ || !current_) {
         if (target->isEnabled())

@@ -135,8 +135,9 @@ host::TResultStatus AsideConnection::ExecutouSQL(std::span<const host::TInstruca
     return call(Kind::Write, [&] { return inner_.connection->ExecutouSQL(statements, durable); });
 }
 
-std::vector<std::string> AsideConnection::AplicarAlteracoesNoBD(std::span<host::TZTClientDataSet* const> dataSets) {
-    return call(Kind::Write, [&] { return inner_.connection->AplicarAlteracoesNoBD(dataSets); });
+std::vector<std::string> AsideConnection::AplicarAlteracoesNoBD(std::span<host::TZTClientDataSet* const> dataSets,
+                                                                bool durable) {
+    return call(Kind::Write, [&] { return inner_.connection->AplicarAlteracoesNoBD(dataSets, durable); });
 }
 
 std::int64_t AsideConnection::BuscarProximoID(std::string_view table) {

@@ -30,7 +30,8 @@ class AsideConnection final : public host::TZTConnection, public host::TSQLConne
     void FinalizarTransacao(host::TZTTransacao& transaction) override;
     void CancelarTransacao(host::TZTTransacao& transaction) override;
     host::TResultStatus ExecutouSQL(std::span<const host::TInstrucao> statements, bool durable) override;
-    std::vector<std::string> AplicarAlteracoesNoBD(std::span<host::TZTClientDataSet* const> dataSets) override;
+    std::vector<std::string> AplicarAlteracoesNoBD(std::span<host::TZTClientDataSet* const> dataSets,
+                                                   bool durable) override;
     host::TSQLConnection& GetSQLConnection() override { return *this; }
     std::int64_t BuscarProximoID(std::string_view table) override;
 

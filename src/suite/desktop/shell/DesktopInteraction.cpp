@@ -66,7 +66,7 @@ int DesktopInteraction::Mensagem(const host::TMensagem& message) {
     for (const auto& button : message.Botoes)
         content.buttons.append(fromUtf8(button));
     content.defaultCode = message.Padrao;
-    content.details = message.Causa ? fromUtf8(message.Causa->Diagnostico()) : QString();
+    content.details = message.Causa ? fromUtf8(message.Causa->Diagnostico()) : fromMessage(message.Detalhes);
     return MessageDialog(content, front()).ask();
 }
 

@@ -179,6 +179,7 @@ void MainWindow::refresh() {
     if (!rows_ || !chart_)
         return;
     empty_->setVisible(!form_.GradeEmVista());
+    lastUpdate_->setEnabled(!form_.DescreverUltimaAtualizacao().empty());
     empty_->setSelected(selected_);
     chart_->setPane(paneInView());
     showRows();

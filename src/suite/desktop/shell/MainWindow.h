@@ -90,8 +90,8 @@ class MainWindow : public QMainWindow {
     EmptyState* empty_ = nullptr;
     ChartPane* chart_ = nullptr;
     ResultExport* export_ = nullptr;
-    QAction *select_ = nullptr, *repeat_ = nullptr, *actual_ = nullptr, *print_ = nullptr, *printGrid_ = nullptr,
-            *printReport_ = nullptr, *exportButton_ = nullptr, *side_ = nullptr;
+    QAction *select_ = nullptr, *repeat_ = nullptr, *actual_ = nullptr, *lastUpdate_ = nullptr, *print_ = nullptr,
+            *printGrid_ = nullptr, *printReport_ = nullptr, *exportButton_ = nullptr, *side_ = nullptr;
     QMenu* view_ = nullptr;
     QActionGroup* looks_ = nullptr;
     QLabel *rows_ = nullptr, *time_ = nullptr;

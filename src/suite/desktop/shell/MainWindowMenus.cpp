@@ -72,6 +72,13 @@ void MainWindow::makeActions() {
     repeat_ = addAction("repetir", QStringLiteral("&Repetir a consulta"), keys("F5"), [this] { repeat(); });
     repeat_->setToolTip(QStringLiteral("Consultar de novo com a última seleção (F5)"));
     actual_ = formAction("ActAtualizarRealizado", "&Atualizar Realizado", "Não faz parte deste módulo");
+    lastUpdate_ = addAction("ultimaAtualizacao", QStringLiteral("Última a&tualização do realizado..."), {}, [this] {
+        MessageContent content;
+        content.title = QStringLiteral("Última atualização do realizado");
+        content.buttons = QStringList{QStringLiteral("OK")};
+        content.text = fromMessage(form_.DescreverUltimaAtualizacao());
+        MessageDialog(content, this).ask();
+    });
     print_ = formAction("ActImprimir", "&Imprimir", NoPrint);
     printReport_ = formAction("ActImprimirRelatorio", "&Relatório...", NoPrint);
     printGrid_ = formAction("ActImprimirGrade", "&Grade...", NoPrint);
@@ -145,7 +152,7 @@ void MainWindow::makeMenus() {
     file->addAction(addAction("sair", QStringLiteral("&Sair"), keys("Ctrl+Q"), [this] { close(); }));
 
     auto* query = menuBar()->addMenu(QStringLiteral("&Consulta"));
-    query->addActions({select_, repeat_, actual_});
+    query->addActions({select_, repeat_, actual_, lastUpdate_});
 
     view_ = menuBar()->addMenu(QStringLiteral("&Exibir"));
     looks_ = new QActionGroup(this);
