@@ -125,8 +125,15 @@ TEST_F(Janela, ComecaComOConviteENadaEmVista) {
     Selecionar([this](FormDriver&) { EXPECT_TRUE(Visivel("DbgCtbOrcada")) << "empty, behind the dialog"; });
     EXPECT_EQ(NadaEmVista, EmVista());
     EXPECT_EQ(Convite, Titulo());
+    std::string dialogo;
+    interacao.aoMostrar = [&](host::TFormZTTandorPadraoResult& form) {
+        dialogo = form.Nome();
+        form.Executar(form.Acao("actSair"));
+    };
     janela->Executar(janela->Acao("ActAtualizarRealizado"));
-    EXPECT_EQ(Lista{"A atualização do realizado ainda não faz parte desta versão."}, interacao.mensagens);
+    EXPECT_EQ("TForm04618AtualizarRealizado", dialogo);
+    EXPECT_EQ(Lista{}, interacao.mensagens);
+    EXPECT_EQ(NadaEmVista, EmVista()) << "it hands over only after an update";
 }
 
 TEST_F(Janela, BalancoFicaEmVistaEnquantoODialogoSoEhAbertoEDeixado) {
