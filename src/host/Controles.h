@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/DataHora.h"
+#include "base/Faixas.h"
 #include "host/Assinatura.h"
 #include "host/Exportar.h"
 
@@ -12,7 +13,7 @@
 
 namespace host {
 
-using TCor = std::uint32_t; // 0xRRGGBB
+using base::TCor;
 
 // Keys to which rules answer.
 enum class TTecla { Enter, Baixo, F11, Esc };

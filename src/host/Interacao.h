@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Faixas.h"
 #include "base/Falhas.h"
 #include "host/Exportar.h"
 
@@ -11,7 +12,9 @@
 namespace host {
 
 class TControle;
+class TDataSet;
 class TFormZTTandorPadraoResult;
+class TGrade;
 class TZTLookupEx;
 
 // The result codes of a message's buttons. A message with one button gives the first; giving up is the third.
@@ -43,6 +46,21 @@ struct HOST_API TEventoProgresso {
     int Valor = 0;     // of Maximo the maximum, 0 for a bar of unknown length; of Passo the position after it
 };
 
+// A report to be shown, and the rows that it prints. Both live until it has been.
+struct HOST_API TImpressao {
+    const base::TRelatorio& Relatorio;
+    const TDataSet& Linhas;
+};
+
+// The picture of a grid to be shown.
+struct HOST_API TImpressaoGrade {
+    const TGrade& Grade;
+    base::TPapel Papel;
+    std::string Titulo;    // on paper
+    std::string Documento; // name of the print job
+    std::string Legenda;   // of the window
+};
+
 // Everything that stops for the user or shows itself beside the grids goes through here: a desktop answers with
 // windows, a script from its queue, a terminal with text.
 class HOST_API TInteracao {
@@ -59,6 +77,10 @@ class HOST_API TInteracao {
     virtual void MostrarModal(TFormZTTandorPadraoResult& AForm) = 0;
     // Shows a failure in the dialog in front, in which the user then goes on; false where there is nobody to go on.
     virtual bool Falha(const base::TFalha& AFalha) = 0;
+    // Show a report or a grid on paper, and return when the user has done with it. A host without paper is a fault of
+    // the program: std::logic_error.
+    virtual void MostrarRelatorio(const TImpressao& AImpressao);
+    virtual void MostrarImpressaoGrade(const TImpressaoGrade& AImpressao);
     virtual void Focar(TControle& AControle) = 0;
     // Opens the search of a lookup; the user picks, marks or leaves it.
     virtual void Pesquisar(TZTLookupEx& ALookup) = 0;
