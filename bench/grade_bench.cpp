@@ -5,7 +5,7 @@
 #include "bench/Medicao.h"
 #include "suite/desktop/grid/GridPane.h"
 #include "suite/desktop/grid/GridView.h"
-#include "suite/desktop/paper/PdfFile.h"
+#include "suite/paint/grid/TablePages.h"
 #include "suite/export/Exporter.h"
 #include "tests/apoio/Grades.h"
 #include "tests/desktop/Aplicacao.h"
@@ -106,7 +106,7 @@ void measurePaper(std::size_t lines) {
     balance.encher(lines);
     const suite::table::Table table(balance.grade);
     const auto file = std::filesystem::temp_directory_path() / ("orcreal-" + std::to_string(::getpid()) + ".pdf");
-    const auto spent = bench::seconds([&] { suite::desktop::writePdf(table, file, {}); });
+    const auto spent = bench::seconds([&] { suite::paint::writeTablePdf(table, file, {}); });
     std::printf("%zu lines on paper: %.3f s, %.1f MB, process at its peak %.0f MB\n", lines, spent,
                 static_cast<double>(std::filesystem::file_size(file)) / (1024 * 1024), bench::memory("VmHWM"));
     std::filesystem::remove(file);

@@ -25,7 +25,7 @@ enum class TEspecieElemento : std::uint8_t {
     Texto,
     FioVertical, // a rule at the left edge of its place, as high as the line of the band; at the right edge by Direita
     FioHorizontal, // a rule at the upper edge of its place; at the lower one by Direita
-    Forma          // a filled rectangle over its place, below everything else of the band
+    Forma          // a filled rectangle from its line to the foot of the band, below everything else of it
 };
 
 // A place on a ruler of the report: the columns [Coluna, Coluna + Colunas) in a line of the band, both from 0.

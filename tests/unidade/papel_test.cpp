@@ -1,17 +1,19 @@
 // A table on paper, before anything is painted: widths, pages side by side and below one another.
 #include "apoio/Grades.h"
 #include "base/Texto.h"
-#include "suite/desktop/paper/PaperRows.h"
+#include "suite/paint/grid/TableRows.h"
 
 #include <gtest/gtest.h>
 
 #include <numeric>
 #include <set>
 
-using namespace suite::desktop::paper;
+using namespace suite::paint;
+using paper::shortened;
+using paper::wrapped;
 using suite::table::Rows;
 using suite::table::Table;
-using Kind = PaperRows::Kind;
+using Kind = TableRows::Kind;
 
 namespace {
 
@@ -21,7 +23,7 @@ double medir(std::string_view texto, bool negrito) {
     return static_cast<double>(base::Caracteres(texto)) * (negrito ? 0.66 : 0.6);
 }
 
-double largura(const Table& tabela, const PaperColumns& colunas, const char* campo) {
+double largura(const Table& tabela, const TableColumns& colunas, const char* campo) {
     for (const auto& parte : colunas.parts)
         for (const auto& lugar : parte.places)
             if (lugar.column->shown->Campo == campo)
@@ -118,7 +120,7 @@ TEST(Papel, PaginaNaoParteOQueVaiJunto) {
         for (std::size_t p = 0; p < papel.pages.size(); ++p) {
             const auto [de, continua] = papel.pages[p];
             const auto ate = p + 1 < papel.pages.size() ? papel.pages[p + 1].first : linhas.size();
-            auto alta = colunas.headHeight() + (continua == Rows::NoGroup ? 0 : PaperRows::ContinuedHeight);
+            auto alta = colunas.headHeight() + (continua == Rows::NoGroup ? 0 : TableRows::ContinuedHeight);
             for (auto i = de; i < ate; ++i)
                 alta += linhas[i].height();
             EXPECT_LE(alta, altura - (p == 0 ? 6 : 0) + 1e-9) << "page " << p;

@@ -1,6 +1,6 @@
 #include "suite/program/Outputs.h"
 
-#include "suite/desktop/paper/PdfFile.h"
+#include "suite/paint/grid/TablePages.h"
 
 #include <charconv>
 #include <cstdlib>
@@ -35,7 +35,7 @@ base::TDataHora now() {
 const exporting::Exporter& exporter() {
     static const exporting::Exporter all = [] {
         exporting::Exporter made;
-        made.add(".pdf", desktop::writePdf);
+        made.add(".pdf", paint::writeTablePdf);
         return made;
     }();
     return all;

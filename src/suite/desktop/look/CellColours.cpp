@@ -2,9 +2,6 @@
 
 #include "suite/table/Luminance.h"
 
-#include <algorithm>
-#include <cmath>
-
 namespace suite::desktop {
 
 namespace {
@@ -34,23 +31,13 @@ QPalette paperPalette() {
 }
 
 QColor mixed(const QColor& a, const QColor& b, double share) {
-    const auto part = [share](int x, int y) { return static_cast<int>(std::lround(x + (y - x) * share)); };
-    return {part(a.red(), b.red()), part(a.green(), b.green()), part(a.blue(), b.blue())};
+    return QColor::fromRgb(table::mixed(a.rgb() & RGB_MASK, b.rgb() & RGB_MASK, share));
 }
 
-double contrast(const QColor& a, const QColor& b) {
-    const auto [low, high] = std::minmax({luminance(a), luminance(b)});
-    return (high + 0.05) / (low + 0.05);
-}
+double contrast(const QColor& a, const QColor& b) { return table::contrast(a.rgb(), b.rgb()); }
 
 QColor legible(const QColor& wanted, const QColor& ground) {
-    const QColor end = contrast(Qt::white, ground) > contrast(Qt::black, ground) ? Qt::white : Qt::black;
-    constexpr int Steps = 20;
-    for (int step = 0; step < Steps; ++step)
-        if (const auto color = mixed(wanted, end, static_cast<double>(step) / Steps);
-            contrast(color, ground) >= LeastContrast)
-            return color;
-    return end;
+    return QColor::fromRgb(table::legible(wanted.rgb() & RGB_MASK, ground.rgb() & RGB_MASK));
 }
 
 CellColours coloursOf(const host::TAparencia& look, const QPalette& palette) {

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "host/Grade.h"
+#include "suite/table/Luminance.h"
 
 #include <QColor>
 #include <QPalette>
 
 namespace suite::desktop {
 
-inline constexpr double LeastContrast = 4.5; // of text that everyone can read
+using table::LeastContrast; // of text that everyone can read
 
 // The colours of paper.
 QPalette paperPalette();

@@ -1,13 +1,18 @@
 #pragma once
 
-#include "suite/desktop/paper/PaperText.h"
+#include "paper/TextFit.h"
 #include "suite/table/Table.h"
 
-namespace suite::desktop::paper {
+namespace suite::paint {
+
+// In ems: a line of text, the space between two rows, and what stands free beside a cell's text.
+inline constexpr double LineHeight = 1.25;
+inline constexpr double RowSpace = 0.3;
+inline constexpr double Padding = 0.45;
 
 // Where the columns of a table stand on paper, in ems. Those that do not fit beside one another in a size that can be
 // read go on over several pages side by side, and the columns that say which line it is are repeated on each.
-struct PaperColumns {
+struct TableColumns {
     struct Place {
         const table::Column* column;
         double left;
@@ -31,9 +36,9 @@ struct PaperColumns {
 };
 
 // On pages of that width, in points. The widths are those of all cells: no number is ever cut, a long text is wrapped.
-PaperColumns layColumns(const table::Table& table, const Measure& measure, double width);
+TableColumns layColumns(const table::Table& table, const paper::Measure& measure, double width);
 
 // Beside a value of such a column stands the sign of its line; the room for it.
-double signRoom(const table::Table& table, const table::Column& column, const Measure& measure);
+double signRoom(const table::Table& table, const table::Column& column, const paper::Measure& measure);
 
-} // namespace suite::desktop::paper
+} // namespace suite::paint

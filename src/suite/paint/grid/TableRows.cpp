@@ -1,18 +1,18 @@
-#include "suite/desktop/paper/PaperRows.h"
+#include "suite/paint/grid/TableRows.h"
 
 #include <algorithm>
 
-namespace suite::desktop::paper {
+namespace suite::paint {
 
 namespace {
 
 constexpr double Indent = 1.2;
 constexpr std::size_t MostLines = 20; // of a row, far below a page
 
-using Kind = PaperRows::Kind;
-using Row = PaperRows::Row;
+using Kind = TableRows::Kind;
+using Row = TableRows::Row;
 
-std::size_t captionLines(const table::Table& table, const PaperColumns& columns, const Measure& measure,
+std::size_t captionLines(const table::Table& table, const TableColumns& columns, const paper::Measure& measure,
                          const Row& row) {
     const auto caption = captionOf(table, row);
     const auto used = indentOf(table, row) + 2 * Padding;
@@ -23,12 +23,12 @@ std::size_t captionLines(const table::Table& table, const PaperColumns& columns,
         });
         const bool sums = summed != part.places.end();
         if (used + measure(caption, true) > (sums ? summed->left : part.width))
-            lines = std::max(lines, (sums ? 1 : 0) + wrapped(measure, caption, part.width - used, true).size());
+            lines = std::max(lines, (sums ? 1 : 0) + paper::wrapped(measure, caption, part.width - used, true).size());
     }
     return lines;
 }
 
-std::size_t textLines(const table::Table& table, const PaperColumns& columns, const Measure& measure,
+std::size_t textLines(const table::Table& table, const TableColumns& columns, const paper::Measure& measure,
                       std::size_t line) {
     std::size_t lines = 1;
     for (const auto& part : columns.parts)
@@ -39,12 +39,12 @@ std::size_t textLines(const table::Table& table, const PaperColumns& columns, co
             if (measure(text, true) <= place.room())
                 continue;
             const auto cell = table.cell(line, *place.column);
-            lines = std::max(lines, wrapped(measure, cell.text, place.room(), cell.look.Negrito).size());
+            lines = std::max(lines, paper::wrapped(measure, cell.text, place.room(), cell.look.Negrito).size());
         }
     return lines;
 }
 
-std::vector<Row> rowsOf(const table::Table& table, const PaperColumns& columns, const Measure& measure) {
+std::vector<Row> rowsOf(const table::Table& table, const TableColumns& columns, const paper::Measure& measure) {
     std::vector<Row> rows;
     const auto add = [&](std::uint32_t index, Kind kind) {
         Row row{index, kind, 1};
@@ -91,10 +91,10 @@ std::size_t setOf(const table::Table& table, const Row& row) {
     return row.kind == Kind::Total ? table.rows().totalSet() : row.index;
 }
 
-PaperRows layRows(const table::Table& table, const PaperColumns& columns, const Measure& measure, double first,
+TableRows layRows(const table::Table& table, const TableColumns& columns, const paper::Measure& measure, double first,
                   double others) {
     constexpr auto None = table::Rows::NoGroup;
-    PaperRows laid{rowsOf(table, columns, measure), {{0, None}}};
+    TableRows laid{rowsOf(table, columns, measure), {{0, None}}};
     const auto& rows = laid.rows;
     const auto whole = others - columns.headHeight();
     double room = first - columns.headHeight();
@@ -105,7 +105,7 @@ PaperRows layRows(const table::Table& table, const PaperColumns& columns, const 
         do
             height += rows[end].height();
         while (++end < rows.size() && keeps(table, rows[end - 1], rows[end]));
-        if (height > whole - PaperRows::ContinuedHeight) { // more than a page: it is parted all the same
+        if (height > whole - TableRows::ContinuedHeight) { // more than a page: it is parted all the same
             end = from + 1;
             height = rows[from].height();
         }
@@ -115,7 +115,7 @@ PaperRows layRows(const table::Table& table, const PaperColumns& columns, const 
                                    : kind == Kind::Group ? table.rows().group(rows[from].index).parent
                                                          : None;
             laid.pages.push_back({from, continued});
-            room = continued == None ? whole : whole - PaperRows::ContinuedHeight;
+            room = continued == None ? whole : whole - TableRows::ContinuedHeight;
         }
         for (; from < end; ++from)
             if (rows[from].kind == Kind::Group)
@@ -125,4 +125,4 @@ PaperRows layRows(const table::Table& table, const PaperColumns& columns, const 
     return laid;
 }
 
-} // namespace suite::desktop::paper
+} // namespace suite::paint

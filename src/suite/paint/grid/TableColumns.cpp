@@ -1,9 +1,9 @@
-#include "suite/desktop/paper/PaperColumns.h"
+#include "suite/paint/grid/TableColumns.h"
 
 #include <algorithm>
 #include <cmath>
 
-namespace suite::desktop::paper {
+namespace suite::paint {
 
 namespace {
 
@@ -21,7 +21,7 @@ struct Widths {
     double word = 0; // the longest of the title
 };
 
-double widestWord(const Measure& measure, const std::string& title) {
+double widestWord(const paper::Measure& measure, const std::string& title) {
     double widest = 0;
     for (std::size_t from = 0; from <= title.size();) {
         const auto end = std::min(title.find(' ', from), title.size());
@@ -31,7 +31,7 @@ double widestWord(const Measure& measure, const std::string& title) {
     return widest;
 }
 
-Widths measureColumn(const table::Table& table, const Column& column, const Measure& measure) {
+Widths measureColumn(const table::Table& table, const Column& column, const paper::Measure& measure) {
     Widths widths{0, widestWord(measure, column.shown->Titulo)};
     const auto sign = signRoom(table, column, measure);
     auto& content = widths.content;
@@ -49,7 +49,7 @@ Widths measureColumn(const table::Table& table, const Column& column, const Meas
 
 class Layout {
   public:
-    Layout(const table::Table& table, const Measure& measure, double width)
+    Layout(const table::Table& table, const paper::Measure& measure, double width)
         : columns_(table.columns()), measure_(measure), width_(width), repeated_(table::frozenOf(columns_)) {
         for (const auto& column : columns_)
             widths_.push_back(measureColumn(table, column, measure));
@@ -60,7 +60,7 @@ class Layout {
             repeated_ = 0;
     }
 
-    PaperColumns lay() {
+    TableColumns lay() {
         text_ = MostText;
         const auto least = width_ / LeastFont;
         while (text_ > LeastText && total(0, columns_.size()) > least)
@@ -76,7 +76,7 @@ class Layout {
         auto size = LeastFont;
         while (size + FontStep <= LargestFont && partsAt(size + FontStep).size() == parts)
             size += FontStep;
-        PaperColumns result;
+        TableColumns result;
         result.fontSize = size;
         for (const auto& places : partsAt(size))
             result.parts.push_back(makePart(places, result));
@@ -123,27 +123,28 @@ class Layout {
         }
         return parts;
     }
-    PaperColumns::Part makePart(const Places& places, PaperColumns& all) const {
-        PaperColumns::Part part;
+    TableColumns::Part makePart(const Places& places, TableColumns& all) const {
+        TableColumns::Part part;
         std::vector<Column> shown;
         for (const auto place : places) {
             const auto& column = columns_[place];
             part.places.push_back({&column, part.width, widthOf(place)});
             part.width += widthOf(place);
             shown.push_back(column);
-            all.titleLines = std::max(all.titleLines,
-                                      wrapped(measure_, column.shown->Titulo, part.places.back().room(), true).size());
+            all.titleLines = std::max(
+                all.titleLines, paper::wrapped(measure_, column.shown->Titulo, part.places.back().room(), true).size());
         }
         part.bands = table::bandsOf(shown);
         for (const auto& band : part.bands) {
             const auto room = part.places[band.first + band.count - 1].right() - part.places[band.first].left;
-            all.bandLines = std::max(all.bandLines, wrapped(measure_, band.caption, room - 2 * Padding, true).size());
+            all.bandLines =
+                std::max(all.bandLines, paper::wrapped(measure_, band.caption, room - 2 * Padding, true).size());
         }
         return part;
     }
 
     const std::vector<Column>& columns_;
-    const Measure& measure_;
+    const paper::Measure& measure_;
     double width_;
     std::size_t repeated_;
     std::vector<Widths> widths_;
@@ -152,16 +153,16 @@ class Layout {
 
 } // namespace
 
-double PaperColumns::headHeight() const {
+double TableColumns::headHeight() const {
     return static_cast<double>(bandLines + titleLines) * LineHeight + (bandLines > 0 ? 2 : 1) * RowSpace;
 }
 
-double signRoom(const table::Table& table, const Column& column, const Measure& measure) {
+double signRoom(const table::Table& table, const Column& column, const paper::Measure& measure) {
     return table.showsSign(column) ? measure("MM", true) : 0;
 }
 
-PaperColumns layColumns(const table::Table& table, const Measure& measure, double width) {
+TableColumns layColumns(const table::Table& table, const paper::Measure& measure, double width) {
     return Layout(table, measure, width).lay();
 }
 
-} // namespace suite::desktop::paper
+} // namespace suite::paint

@@ -1,10 +1,10 @@
-#include "suite/desktop/paper/PaperText.h"
+#include "paper/TextFit.h"
 
 #include "base/Texto.h"
 
 #include <algorithm>
 
-namespace suite::desktop::paper {
+namespace paper {
 
 namespace {
 
@@ -48,4 +48,4 @@ std::string shortened(const Measure& measure, const std::string& text, double wi
     return text.substr(0, fitting(measure, text, width - measure("…", bold), bold)) + "…";
 }
 
-} // namespace suite::desktop::paper
+} // namespace paper

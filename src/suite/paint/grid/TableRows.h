@@ -1,12 +1,12 @@
 #pragma once
 
-#include "suite/desktop/paper/PaperColumns.h"
+#include "suite/paint/grid/TableColumns.h"
 
-namespace suite::desktop::paper {
+namespace suite::paint {
 
 // The rows of a table on pages below one another: groups, all lines, the total. Each page has room for the head of the
 // columns besides.
-struct PaperRows {
+struct TableRows {
     enum class Kind : std::uint8_t { Group, Line, Total };
     struct Row {
         std::uint32_t index; // of a group, or of a line in Table::lines
@@ -30,13 +30,13 @@ std::string captionOfContinued(const table::Table& table, std::uint32_t group);
 
 // Heights of the first page and of the others, in ems. A group is not left at a page's foot without a line of it, the
 // rows of one line are not parted, and the total is not alone.
-PaperRows layRows(const table::Table& table, const PaperColumns& columns, const Measure& measure, double first,
+TableRows layRows(const table::Table& table, const TableColumns& columns, const paper::Measure& measure, double first,
                   double others);
 
 // Of a group or the total, and how far it is moved in.
-std::string captionOf(const table::Table& table, const PaperRows::Row& row);
-double indentOf(const table::Table& table, const PaperRows::Row& row);
+std::string captionOf(const table::Table& table, const TableRows::Row& row);
+double indentOf(const table::Table& table, const TableRows::Row& row);
 // The set of sums that a group or the total shows.
-std::size_t setOf(const table::Table& table, const PaperRows::Row& row);
+std::size_t setOf(const table::Table& table, const TableRows::Row& row);
 
-} // namespace suite::desktop::paper
+} // namespace suite::paint
