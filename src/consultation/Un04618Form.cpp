@@ -65,7 +65,7 @@ void TForm04618::ActSelecionarExecute(host::TControle* ASender) {
     MostrarResultado();
     if (!GetFormSelecao().Cancelou() &&
         (LDm.FDetalharSelecao == ModoMatricial || LDm.FDetalharSelecao == ModoRazaoTotalizadores))
-        ActImprimirExecute();
+        ActImprimirRelatorioExecute();
 }
 
 void TForm04618::ExecutarSelecao(host::TControle* ASender) {
@@ -103,10 +103,6 @@ std::vector<host::TCriterio> TForm04618::Criterios() const {
     const auto& LDm = GetDm04618();
     const bool LTem = FFormSelecao && (LDm.CdsMostraCtbOrcada.Active() || LDm.CdsMostraCtbOrcMensal.Active());
     return LTem ? FFormSelecao->Criterios() : std::vector<host::TCriterio>();
-}
-
-void TForm04618::ActImprimirExecute() {
-    host::GZTUtilsDialogs.Informacao("A impressão deste modo ainda não faz parte desta versão.");
 }
 
 void TForm04618::ActAtualizarRealizadoExecute() {

@@ -29,6 +29,9 @@ class TForm04618 final : public host::TFormZTTandorPadraoSelecao {
     // Asks for a selection, runs it and shows its result. From ActAtualizarRealizado nobody is asked: the selection is
     // that of the query module, and an abort of its validation passes.
     void ActSelecionarExecute(host::TControle* ASender) override;
+    // The report of the mode in view, or a message where there is nothing to print.
+    void Imprimir() override;
+    void ActImprimirGradeExecute() override; // the picture of the grid in view
     host::TGrade* GradeEmVista() override;
     std::string DescreverUltimaAtualizacao() const override;
     std::vector<host::TCriterio> Criterios() const override;
@@ -36,9 +39,15 @@ class TForm04618 final : public host::TFormZTTandorPadraoSelecao {
   private:
     void ExecutarSelecao(host::TControle* ASender);
     void MostrarResultado();
-    void ActImprimirExecute();
     void ActAtualizarRealizadoExecute();
     void FormDestroy();
+
+    // Printing (Un04618FormImpressao.cpp)
+    template <typename TRelatorio> void ImprimirRelatorio(TRelatorio& ARelatorio);
+    void ImprimirRelatorioBalanco();
+    void ImprimirRelatorioPeriodos();
+    void ImprimirRelatorioMatricial();
+    void ImprimirRelatorioRazaoTot();
 
     // Grids and what stands around them (Un04618FormGrades.cpp)
     void ConfigurarControles();

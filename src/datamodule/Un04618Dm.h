@@ -17,6 +17,9 @@ class TDM04618 : public host::TDmZTTandorPadrao, public TSelecao {
     TDM04618();
     ~TDM04618() override;
 
+    // Period of the last commit: the dates of the selection follow the dialog, and the rows do not.
+    base::TDataHora FInicioConsulta;
+    base::TDataHora FFimConsulta;
     // Of the last result with periods in columns: what its columns are, where two have the same name; else empty.
     std::vector<TPeriodoEmColuna> FPeriodosDeMesmoNome;
 

@@ -79,9 +79,15 @@ void TDmZTTandorPadrao::Conectar(std::initializer_list<TZTSQLDataSet*> ADataSets
 
 TFormZTTandorPadraoSelecao::TFormZTTandorPadraoSelecao(std::string ANome, std::string ATitulo)
     : TForm(std::move(ANome), std::move(ATitulo)),
-      ActSelecionar("ActSelecionar", [this] { ActSelecionarExecute(&ActSelecionar); }) {
+      ActSelecionar("ActSelecionar", [this] { ActSelecionarExecute(&ActSelecionar); }),
+      ActImprimir("ActImprimir", [this] { ActImprimirExecute(); }),
+      ActImprimirRelatorio("ActImprimirRelatorio", [this] { ActImprimirRelatorioExecute(); }),
+      ActImprimirGrade("ActImprimirGrade", [this] { ActImprimirGradeExecute(); }) {
     ActSelecionar.SetCaption("&Selecionar");
-    Registrar({&ActSelecionar});
+    ActImprimir.SetCaption("&Imprimir");
+    ActImprimirRelatorio.SetCaption("&Relatório...");
+    ActImprimirGrade.SetCaption("&Grade...");
+    Registrar({&ActSelecionar, &ActImprimir, &ActImprimirRelatorio, &ActImprimirGrade});
 }
 
 TFormZTTandorPadraoResult::TFormZTTandorPadraoResult(std::string ANome, std::string ATitulo)

@@ -109,11 +109,15 @@ struct HOST_API TCriterio {
     std::string Valor;
 };
 
-// Base of a window: the action "Selecionar" and the slot of the data module.
+// Base of a window: the action "Selecionar", those of the print menu, and the slot of the data module.
 class HOST_API TFormZTTandorPadraoSelecao : public TForm {
   public:
     TFormZTTandorPadraoSelecao(std::string ANome, std::string ATitulo);
     virtual void ActSelecionarExecute(TControle* /*ASender*/) {}
+    // The print button: its menu is the face's, and without one it prints the report.
+    virtual void ActImprimirExecute() { ActImprimirRelatorioExecute(); }
+    virtual void ActImprimirRelatorioExecute() { Imprimir(); }
+    virtual void ActImprimirGradeExecute() {}
     // The grid whose rows are in view, null for none.
     virtual TGrade* GradeEmVista() { return nullptr; }
     // What the result in view was asked for, as every output of it says; the first is its title. None without a result.
@@ -125,6 +129,9 @@ class HOST_API TFormZTTandorPadraoSelecao : public TForm {
   protected:
     std::unique_ptr<TDMPadrao> FDataModule;
     TAction ActSelecionar;
+    TAction ActImprimir;
+    TAction ActImprimirRelatorio;
+    TAction ActImprimirGrade;
 };
 
 // Base of a modal dialog with "OK" and "Sair".
@@ -168,18 +175,6 @@ class HOST_API TFormZTTandorPadraoCalculos : public TFormZTTandorPadraoResult {
   protected:
     TAction ActExecutar;
     TAction ActExcluir;
-};
-
-// Base of a report: made for one print, given its title and printed by its own Imprimir.
-class HOST_API TDMTandorRelPadrao : public TDMPadrao {
-  public:
-    explicit TDMTandorRelPadrao(std::string ATitulo) : FTitulo(std::move(ATitulo)) {}
-    const std::string& Titulo() const { return FTitulo; }
-    virtual void InitializeForm() {}
-    virtual void Imprimir() = 0;
-
-  private:
-    std::string FTitulo;
 };
 
 } // namespace host

@@ -5,6 +5,8 @@
 #include "host/Exportar.h"
 #include "host/Interacao.h"
 
+#include <functional>
+
 namespace host {
 
 class TArmazemLeiautes;
@@ -17,7 +19,8 @@ struct HOST_API TServicos {
     TZTEmpresaLogada* EmpresaLogada = nullptr;
     TUtilContabil* Contabil = nullptr;
     TUtilSistema* Sistema = nullptr;
-    TArmazemLeiautes* Leiautes = nullptr; // may be absent: no layouts are kept
+    TArmazemLeiautes* Leiautes = nullptr;   // may be absent: no layouts are kept
+    std::function<base::TDataHora()> Agora{}; // the time that stands on paper; may be absent: none does
 };
 
 // Makes services the current ones for as long as it lives.

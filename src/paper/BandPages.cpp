@@ -20,9 +20,9 @@ BandPages::BandPages(const base::TRelatorio& report, Measure measure)
 
 BandPages::BandPages(const base::TRelatorio& report, Measure measure, const Setting& setting)
     : report_(report.Definicao()), setter_(report_, std::move(measure), setting), sheet_(setting.sheet),
-      bands_(report.Faixas()) {
+      margins_(setting.margins), bands_(report.Faixas()) {
     if (sheet_.width == 0)
-        sheet_.width = setter_.rulers().width() + report_.Papel.Esquerda + report_.Papel.Direita;
+        sheet_.width = setter_.rulers().width() + margins_.Esquerda + margins_.Direita;
 }
 
 bool BandPages::next(Page& page) {
@@ -49,7 +49,7 @@ bool BandPages::next(Page& page) {
 void BandPages::take(base::TFaixa band) {
     if (band.Especie == TEspecieFaixa::CabecalhoPagina) {
         head_ = std::make_shared<const base::TFaixa>(std::move(band));
-        whole_ = sheet_.height - report_.Papel.Topo - report_.Papel.Base - setter_.set(*head_, 0).height -
+        whole_ = sheet_.height - margins_.Topo - margins_.Base - setter_.set(*head_, 0).height -
                  setter_.set(report_.Rodape, 0).height;
         return;
     }
@@ -99,7 +99,7 @@ void BandPages::place(Piece& piece) {
     close(piece.band);
     if (!begun_)
         beginPage(piece);
-    put(page_, piece.block, report_.Papel.Esquerda, y_);
+    put(page_, piece.block, margins_.Esquerda, y_);
     y_ += piece.block.height;
     fresh_ = fresh_ && piece.block.height == 0;
     if (heads(piece.band) && piece.band.Repete)
@@ -117,10 +117,10 @@ void BandPages::close(const base::TFaixa& band) {
 void BandPages::beginPage(const Piece& first) {
     begun_ = fresh_ = true;
     page_.number = ++number_;
-    y_ = report_.Papel.Topo;
-    bottom_ = sheet_.height - report_.Papel.Base - setter_.set(report_.Rodape, number_).height;
+    y_ = margins_.Topo;
+    bottom_ = sheet_.height - margins_.Base - setter_.set(report_.Rodape, number_).height;
     const auto add = [&](const Block& block) {
-        put(page_, block, report_.Papel.Esquerda, y_);
+        put(page_, block, margins_.Esquerda, y_);
         y_ += block.height;
     };
     if (first.head)
@@ -132,7 +132,7 @@ void BandPages::beginPage(const Piece& first) {
 void BandPages::endPage() {
     if (!begun_)
         return;
-    put(page_, setter_.set(report_.Rodape, number_), report_.Papel.Esquerda, bottom_);
+    put(page_, setter_.set(report_.Rodape, number_), margins_.Esquerda, bottom_);
     done_.push_back(std::move(page_));
     page_ = {};
     begun_ = false;

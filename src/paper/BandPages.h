@@ -41,6 +41,7 @@ class BandPages final : public PageSource {
     const base::TDefinicaoRelatorio& report_;
     BandSetter setter_;
     Sheet sheet_;
+    base::TPapel margins_;
     std::unique_ptr<base::TFluxoFaixas> bands_; // null behind the last one
     std::shared_ptr<const base::TFaixa> head_;  // that came last
     Length whole_ = 0;                          // room of a page with nothing but that

@@ -32,19 +32,21 @@ double BandSetter::roomOf(const TElementoFaixa& element) const {
 }
 
 std::size_t BandSetter::linesOf(const TElementoFaixa& element) const {
-    if (element.Especie != TEspecieElemento::Texto || element.Cabimento != TCabimento::Quebra)
+    if (element.Especie != TEspecieElemento::Texto)
+        return 0;
+    if (element.Cabimento != TCabimento::Quebra)
         return 1;
     return std::min(MostLines, wrapped(measure_, element.Texto, roomOf(element), element.Negrito).size());
 }
 
 std::vector<BandSetter::Row> BandSetter::rowsOf(const base::TFaixa& band) const {
     std::vector<Row> rows(1);
-    std::vector<std::size_t> lines(1, 1);
+    std::vector<std::size_t> lines(1, 0); // of text; none where rules stand alone
     for (const auto& element : band.Elementos) {
         const std::size_t line = element.Lugar.Linha;
         if (line >= rows.size()) {
             rows.resize(line + 1);
-            lines.resize(line + 1, 1);
+            lines.resize(line + 1, 0);
         }
         lines[line] = std::max(lines[line], linesOf(element));
         rows[line].body = std::max(rows[line].body, bodyOf(element));

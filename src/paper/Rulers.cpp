@@ -44,6 +44,7 @@ void fill(std::vector<double>& widths, const base::TRegua& ruler, double room) {
 
 Setting settingOf(const base::TPapel& paper) {
     Setting setting;
+    setting.margins = paper;
     setting.sheet = paper.Paisagem ? Sheet{A4Long, A4Short} : Sheet{A4Short, A4Long};
     return setting;
 }
@@ -56,6 +57,7 @@ Setting settingOfText() {
     setting.least = setting.most = Character;
     setting.oneSize = true;
     setting.sheet = {0, RowsOfText};
+    setting.margins = {false, 0, 0, 0, 0};
     return setting;
 }
 
@@ -67,8 +69,9 @@ Rulers::Rulers(const base::TDefinicaoRelatorio& report, const Measure& measure, 
         widest = std::max(widest, sum(widths.back()));
     }
     const bool natural = setting.sheet.width == 0;
-    const auto room = natural ? widest * setting.most
-                              : static_cast<double>(setting.sheet.width - report.Papel.Esquerda - report.Papel.Direita);
+    const auto room =
+        natural ? widest * setting.most
+                : static_cast<double>(setting.sheet.width - setting.margins.Esquerda - setting.margins.Direita);
     width_ = static_cast<Length>(std::ceil(room));
     const auto fitting = widest > 0 ? static_cast<Length>(room / widest) : setting.most;
     size_ = std::clamp(natural ? setting.most : fitting, setting.least, setting.most);

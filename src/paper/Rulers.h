@@ -16,6 +16,7 @@ struct Setting {
     Length most = 2'999;
     bool oneSize = false; // titles are no larger than the rest
     Sheet sheet;          // a width of 0: as wide as the widest ruler
+    base::TPapel margins;
 };
 
 // A4, as a report asks for it.

@@ -19,6 +19,7 @@ class TForm04618Selecao final : public host::TFormZTTandorPadraoResult {
     bool Cancelou() const { return FCancelou; }
     // What the last commit asked for, as the dialog called it then; the first is the title.
     const std::vector<host::TCriterio>& Criterios() const { return FCriterios; }
+    bool ImpressaoColorida() const { return ChkImpColorido.Checked(); } // as the box stands now
     // Fills the dialog from outside, so that ActOKExecute can run without the user. AVisualizacao is an index from 0.
     void AtribuirDadosSelecao(std::int64_t AIDFilial, base::TDataHora ADataIni, base::TDataHora ADataFim,
                               std::int32_t AVisualizacao, std::int32_t ADetalhar, std::int32_t ACenario);

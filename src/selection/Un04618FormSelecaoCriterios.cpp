@@ -48,7 +48,9 @@ std::string Titulado(const host::TControle& ATitulo, const host::TControle& ACon
 
 // What is asked for is that of the query module, which has just taken it over; how it is called stands in the controls.
 void TForm04618Selecao::GuardarCriterios() {
-    const auto& LDm = FDm04618;
+    auto& LDm = FDm04618;
+    LDm.FInicioConsulta = LDm.FDataInicio;
+    LDm.FFimConsulta = LDm.FDataFim;
     const bool LContas = LDm.FImprimirOrcamentariaBal;
     const bool LEmColunas = LDm.FDetalharSelecao == ModoPeriodosEmColunas;
     const auto LEmpresa = host::BuscarInstanciaZTEmpresaLogada().BuscarDadosEmpresa(LDm.FIDEmpresa);

@@ -16,6 +16,7 @@ namespace apoio {
 class Interacao : public host::TInteracao {
   public:
     std::vector<std::string> mensagens;
+    std::vector<std::string> relatorios;    // titles of those shown
     std::optional<base::TFalhaBanco> causa; // of the last message
     std::vector<std::string> falhas;        // in an open dialog
     std::vector<host::TEventoProgresso> progresso;
@@ -33,6 +34,9 @@ class Interacao : public host::TInteracao {
     bool Falha(const base::TFalha& falha) override {
         falhas.emplace_back(falha.what());
         return true;
+    }
+    void MostrarRelatorio(const host::TImpressao& impressao) override {
+        relatorios.push_back(impressao.Relatorio.Definicao().Titulo);
     }
     void Focar(host::TControle& controle) override { foco = controle.Nome(); }
     void Pesquisar(host::TZTLookupEx& lookup) override {

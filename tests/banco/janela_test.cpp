@@ -18,7 +18,7 @@ namespace {
 
 const std::string Convite = "Clique no botão \"Selecionar\" para escolher as formas de busca das informações.";
 const std::string Janeiro = "Visualizando projeção orçamentária de 01/01/2024 a 31/01/2024";
-const std::string SemImpressao = "A impressão deste modo ainda não faz parte desta versão.";
+const std::string NadaAImprimir = "Não existem dados selecionados para impressão.";
 const std::string NadaEmVista = "- -";
 const std::string Balanco = "DbgCtbOrcada PnlLegenda";
 const std::string PeriodosEmVista = "DbgMostraCtbOrcMensal PnlLegendaGradeOrcMensal";
@@ -362,14 +362,39 @@ TEST_F(Janela, ModosDeRelatorioImprimemAMenosQueODialogoSejaDeixado) {
     Consultar("01/03/2024", "31/03/2024", "5");
     EXPECT_EQ(NadaEmVista, EmVista());
     EXPECT_EQ(Convite, Titulo());
-    EXPECT_EQ(Lista{SemImpressao}, interacao.mensagens) << "also without a projection";
+    EXPECT_EQ(Lista{"RAZÃO TOTALIZADORES: "}, interacao.relatorios) << "also without a projection";
     Consultar("01/03/2024", "31/03/2024", "4", "OR");
     EXPECT_EQ(NadaEmVista, EmVista());
     ASSERT_FALSE(interacao.mensagens.empty());
-    EXPECT_EQ(SemImpressao, interacao.mensagens.back());
+    EXPECT_EQ(NadaAImprimir, interacao.mensagens.back());
     Selecionar([](FormDriver& usuario) { Preencher(usuario, "01/03/2024", "31/03/2024", "5"); });
     EXPECT_EQ(NadaEmVista, EmVista());
     EXPECT_EQ(Lista{}, interacao.mensagens);
+    EXPECT_EQ(1U, interacao.relatorios.size()) << "left by Sair";
+}
+
+TEST_F(Janela, ImprimeOQueOModoTem) {
+    const auto imprimir = [&] { janela->Executar(janela->Acao("ActImprimirRelatorio")); };
+    Abrir();
+    imprimir();
+    EXPECT_EQ(Lista{NadaAImprimir}, interacao.mensagens) << "before any selection";
+    Consultar("01/01/2024", "31/01/2024", "3", "BOR");
+    imprimir();
+    Consultar("01/01/2024", "31/01/2024", "1");
+    imprimir();
+    const std::string titulo = "Contabilidade Gerencial Orçamentária";
+    EXPECT_EQ((Lista{titulo, titulo}), interacao.relatorios);
+    EXPECT_EQ(Lista{}, interacao.mensagens);
+    Consultar("01/02/2024", "29/02/2024", "1");
+    imprimir();
+    EXPECT_EQ(Lista{NadaAImprimir}, interacao.mensagens) << "open without a row";
+    interacao.mensagens.clear();
+    janela->GetDm04618().CdsMostraCtbOrcada.Close();
+    imprimir();
+    EXPECT_EQ(Lista{"Não foram encontrados dados para impressão do relatório.\r\rVerifique a seleção dos dados através "
+                    "do botão SELECIONAR."},
+              interacao.mensagens);
+    EXPECT_EQ(2U, interacao.relatorios.size());
 }
 
 TEST_F(Janela, DepoisDeAtualizarORealizadoNinguemEhPerguntado) {

@@ -257,8 +257,7 @@ TEST(Roteiro, PassoErradoOuForaDeLugarTerminaComSuaLinha) {
     recusa("mostrar tudo\n", 2, "Linha 1: Não há o que mostrar por \"tudo\". Existem: controles, ");
     recusa("mostrar linhas\n", 2, "Linha 1: Nenhuma grade está à vista.");
     recusa("mostrar linhas Outros\n", 2, "Linha 1: Não há o conjunto de dados \"Outros\". Existem: Dados.");
-    recusa("imprimir\n", 1, "Linha 1: A impressão não faz parte desta versão.");
-    recusa("mostrar relatorio\n", 1, "Linha 1: O relatório não faz parte desta versão.");
+    recusa("mostrar relatorio\n", 2, "Linha 1: Nenhum relatório foi impresso.");
 }
 
 TEST(Roteiro, FalhaNoDialogoAbertoEhDitaNeleEOsPassosSeguem) {

@@ -5,9 +5,8 @@
 #include "base/Texto.h"
 #include "host/Grade.h"
 #include "suite/export/Formats.h"
-#include "suite/program/FillSelection.h"
+#include "suite/program/Consultation.h"
 #include "suite/program/Outputs.h"
-#include "suite/program/Session.h"
 #include "suite/terminal/TableText.h"
 
 #include <filesystem>
@@ -58,35 +57,6 @@ void writeOutput(const Result& result, const ConsultOptions& options) {
         throw base::TFalha("Não foi possível escrever o resultado na saída.");
 }
 
-// The questions of the commit and the options that answer them: a value is the caption of its button in small letters.
-terminal::Headless::Answer answer(const host::TMensagem& question, const ConsultOptions& options) {
-    const struct {
-        const char* option;
-        const std::string& value;
-        std::vector<std::string> values;
-    } answers[] = {{"--totais", options.totals, {"consultar", "reatualizar"}},
-                   {"--dependencias", options.dependencies, {"selecionado", "todos"}}};
-    for (const auto& [option, value, values] : answers) {
-        std::vector<std::string> captions = question.Botoes;
-        for (auto& caption : captions)
-            caption.front() = static_cast<char>(std::tolower(static_cast<unsigned char>(caption.front())));
-        if (!std::equal(values.begin(), values.end(), captions.begin()))
-            continue;
-        if (value.empty())
-            return {0, std::string(" Use ") + option + " " + values[0] + " ou " + option + " " + values[1] + "."};
-        return {value == values[0] ? host::TResposta::Primeira : host::TResposta::Segunda, {}};
-    }
-    return {};
-}
-
-// That of the dataset which the commit has opened, in view or not; null when the rules have declined it.
-const host::TGrade* resultGrid(const host::TForm& window) {
-    for (const auto* control : window.Controles())
-        if (const auto* grid = dynamic_cast<const host::TGrade*>(control); grid && grid->DataSet()->Active())
-            return grid;
-    return nullptr;
-}
-
 } // namespace
 
 ExitCode runConsult(const ConsultOptions& options, const exporting::Output& output, terminal::Headless& interaction) {
@@ -95,11 +65,7 @@ ExitCode runConsult(const ConsultOptions& options, const exporting::Output& outp
         throw base::TFalha("O formato " + options.format + " pede um arquivo: use também --saida.");
     if (options.criteria && options.format != "csv")
         throw base::TFalha("A opção --criterios é do formato csv; os outros dizem os critérios por si.");
-    const auto window = Session::makeWindow();
-    window->InitializeForm();
-    interaction.onModal = [&](host::TFormZTTandorPadraoResult& form) { fillSelection(form, options, interaction); };
-    interaction.onQuestion = [&](const host::TMensagem& question) { return answer(question, options); };
-    window->Executar(window->Acao("ActSelecionar"));
+    const auto window = consult(options, interaction);
     const auto* grid = resultGrid(*window);
     if (!grid)
         return interaction.failure() ? exitCodeOf(*interaction.failure()) : ExitCode::Refused; // it has been said why

@@ -50,7 +50,7 @@ void translateHelp(CLI::App& app) {
     app.formatter(formatter);
 }
 
-void addConsultOptions(CLI::App& command, ConsultOptions& options) {
+void addSelectionOptions(CLI::App& command, ConsultOptions& options) {
     const auto add = [&](const char* name, std::string& value, const char* text, const char* type) {
         return command.add_option(name, value, text)->type_name(type);
     };
@@ -59,8 +59,6 @@ void addConsultOptions(CLI::App& command, ConsultOptions& options) {
     };
     add("--visualizar", options.view, "balanco: plano de contas (padrão); demonstracao: demonstração configurável", "V")
         ->check(oneOf({"balanco", "demonstracao"}));
-    add("--modo", options.mode, "1 agrupando períodos, 2 período exato, 3 períodos em colunas", "M")
-        ->check(oneOf({"1", "2", "3"}));
     add("--de", options.from, "data inicial, o primeiro dia de um mês", "dd/mm/aaaa");
     add("--ate", options.to, "data final, o último dia de um mês", "dd/mm/aaaa");
     add("--cenario", options.scenario, "0 normal (padrão), 1 otimista, 2 pessimista", "N")
@@ -91,10 +89,32 @@ void addConsultOptions(CLI::App& command, ConsultOptions& options) {
         "ou de todos; as que usam o selecionado não são geradas: reatualize-as depois",
         "D")
         ->check(oneOf({"selecionado", "todos"}));
-    add("--formato", options.format, "tabela (padrão), csv, json, xlsx ou html", "T")
-        ->check(oneOf({"tabela", "csv", "json", "xlsx", "html"}));
-    flag("--criterios", options.criteria, "escreve no csv, antes das linhas, o que foi pedido");
     add("--saida", options.output, "grava o resultado no arquivo F", "F")->check(notEmpty());
+}
+
+void addConsultOptions(CLI::App& command, ConsultOptions& options) {
+    command.add_option("--modo", options.mode, "1 agrupando períodos, 2 período exato, 3 períodos em colunas")
+        ->type_name("M")
+        ->check(oneOf({"1", "2", "3"}));
+    addSelectionOptions(command, options);
+    command.add_option("--formato", options.format, "tabela (padrão), csv, json, xlsx ou html")
+        ->type_name("T")
+        ->check(oneOf({"tabela", "csv", "json", "xlsx", "html"}));
+    command.add_flag("--criterios", options.criteria, "escreve no csv, antes das linhas, o que foi pedido")
+        ->multi_option_policy(CLI::MultiOptionPolicy::Throw);
+}
+
+void addPrintOptions(CLI::App& command, ConsultOptions& options) {
+    options.format = "pdf";
+    command
+        .add_option("--modo", options.mode,
+                    "1 agrupando períodos, 2 período exato, 3 períodos em colunas, 5 razão dos totalizadores")
+        ->type_name("M")
+        ->check(oneOf({"1", "2", "3", "4", "5"}));
+    addSelectionOptions(command, options);
+    command.add_option("--formato", options.format, "pdf (padrão, pede --saida) ou texto")
+        ->type_name("T")
+        ->check(oneOf({"pdf", "texto"}));
 }
 
 void addActualsOptions(CLI::App& command, ActualsOptions& options) {
@@ -125,6 +145,7 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::functi
     Options options;
     std::string passwordFile;
     ConsultOptions consult;
+    ConsultOptions print;
     ActualsOptions actuals;
     DemoOptions demo;
     ScriptOptions script;
@@ -169,6 +190,9 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::functi
     auto* consultCommand = app.add_subcommand("consultar", "faz uma consulta e mostra suas linhas");
     addConsultOptions(*consultCommand, consult);
 
+    auto* printCommand = app.add_subcommand("imprimir", "faz uma consulta e o seu relatório");
+    addPrintOptions(*printCommand, print);
+
     auto* actualsCommand =
         app.add_subcommand("realizado", "atualiza o realizado das projeções pelo diário, ou o exclui");
     actualsCommand->require_subcommand(1);
@@ -196,8 +220,8 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::functi
         ->required()
         ->check(readable());
     auto* verifyCommand = app.add_subcommand("verificar", "diz se o banco de dados serve, e o que lhe falta");
-    for (auto* command : {windowCommand, consultCommand, actualsCommand, updateCommand, removeCommand, demoCommand,
-                          scriptCommand, verifyCommand}) {
+    for (auto* command : {windowCommand, consultCommand, printCommand, actualsCommand, updateCommand, removeCommand,
+                          demoCommand, scriptCommand, verifyCommand}) {
         command->group("Comandos");
         command->set_help_flag("-h,--help,--ajuda", "mostra esta ajuda")->group("Opções do comando");
         command->formatter(app.get_formatter());
@@ -234,6 +258,8 @@ ParsedLine parseCommandLine(int argc, const char* const* argv, const std::functi
     options.credentials.password = readPassword(passwordFile);
     if (consultCommand->parsed())
         options.consult = consult;
+    if (printCommand->parsed())
+        options.print = print;
     if (actualsCommand->parsed()) {
         actuals.remove = removeCommand->parsed();
         options.actuals = actuals;

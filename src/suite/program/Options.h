@@ -63,6 +63,7 @@ struct Options {
     firebird::Credentials credentials;
     LoginRequest login;
     std::optional<ConsultOptions> consult;
+    std::optional<ConsultOptions> print; // its report
     std::optional<ActualsOptions> actuals;
     std::optional<DemoOptions> demo;
     std::optional<ScriptOptions> script;

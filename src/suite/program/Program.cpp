@@ -11,6 +11,7 @@
 #include "suite/program/Module.h"
 #include "suite/program/Options.h"
 #include "suite/program/Outputs.h"
+#include "suite/program/PrintCommand.h"
 #include "suite/program/ScriptCommand.h"
 #include "suite/program/Session.h"
 #include "suite/program/UserFolder.h"
@@ -82,12 +83,13 @@ ExitCode runOnDatabase(const Options& options, Interrupt& interrupt) {
     terminal::Headless interaction(std::cerr, onTerminal());
     interaction.onCancelQuery = [&] { return interrupt.requested(); };
     const Session session(options.login, connection, interaction,
-                          options.consult ? Session::Layouts::None : Session::Layouts::OfUser);
+                          options.consult || options.print ? Session::Layouts::None : Session::Layouts::OfUser);
     const Module module(moduleFile());
     const auto stop = [&] { return interrupt.requested(); };
     const auto origin = [&] { return originNow(target.text()); };
     const auto code = options.script    ? runScript(*options.script, {exporter(), origin}, stop)
                       : options.actuals ? runActuals(*options.actuals, interaction)
+                      : options.print   ? runPrint(*options.print, origin, stop, interaction)
                                         : runConsult(*options.consult, {exporter(), origin}, interaction);
     return code != ExitCode::Done && interrupt.requested() ? ExitCode::Cancelled : code;
 }
@@ -105,7 +107,7 @@ std::string versionOfAll() {
 ExitCode runCommand(const Options& options, Interrupt& interrupt) {
     if (options.demo)
         return runDemo(*options.demo, interrupt);
-    if (options.consult || options.actuals || options.script || options.verify)
+    if (options.consult || options.print || options.actuals || options.script || options.verify)
         return runOnDatabase(options, interrupt);
     return runDesktopCommand(options, interrupt);
 }

@@ -2,6 +2,7 @@
 
 #include "base/Falhas.h"
 #include "host/Registro.h"
+#include "suite/program/Outputs.h"
 #include "suite/program/UserFolder.h"
 
 namespace suite::program {
@@ -17,6 +18,7 @@ Session::Session(const LoginRequest& request, host::TZTConnection& connection, h
     services.EmpresaLogada = &*login_;
     services.Contabil = &*login_;
     services.Sistema = &*login_;
+    services.Agora = [] { return originNow({}).made; };
     if (layouts == Layouts::OfUser)
         services.Leiautes = &layouts_;
     loggedIn_.emplace(services);

@@ -4,17 +4,13 @@
 
 namespace suite::script {
 
-namespace {
-
-std::string colour(const std::optional<host::TCor>& value) {
+std::string jsonColour(const std::optional<base::TCor>& value) {
     if (!value)
         return "null";
     char text[12];
     std::snprintf(text, sizeof text, "\"#%06X\"", static_cast<unsigned>(*value & 0xFFFFFFU));
     return text;
 }
-
-} // namespace
 
 std::string describeColumns(const host::TGrade& grid) {
     std::vector<std::string> columns;
@@ -39,8 +35,8 @@ exporting::JsonObject describeCells(const host::TGrade& grid, std::size_t row, b
         exporting::JsonObject members;
         members.add("texto", exporting::quoteJson(cell.Texto()))
             .add("negrito", exporting::jsonFlag(look.Negrito))
-            .add("fonte", colour(look.Fonte))
-            .add("fundo", colour(look.Fundo))
+            .add("fonte", jsonColour(look.Fonte))
+            .add("fundo", jsonColour(look.Fundo))
             .add("vazio", exporting::jsonFlag(look.Vazio));
         cells.add(column.Campo, members.text());
     }

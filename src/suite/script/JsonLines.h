@@ -14,7 +14,8 @@ class JsonLines {
 
     void setLine(int line) { line_ = line; }
     int line() const { return line_; }
-    void write(std::string_view type, const exporting::JsonObject& members);
+    void write(std::string_view type, const exporting::JsonObject& members) { write(type, members.members()); }
+    void write(std::string_view type, std::string_view members);
     void writeRows(const host::TDataSet& rows);
     // What is written so far is out of the program's hands.
     void flush() { out_.flush(); }

@@ -19,6 +19,7 @@ class ScriptInteraction final : public host::TInteracao {
 
     std::function<void(host::TFormZTTandorPadraoResult&)> onModal;
     std::function<void(host::TZTLookupEx&)> onSearch;
+    std::function<void(const host::TImpressao&)> onReport;
 
     // What the user will do, said at the current line.
     void answer(int code) { answers_.push_back({out_.line(), code}); }
@@ -35,6 +36,8 @@ class ScriptInteraction final : public host::TInteracao {
     bool ProgressoCancelado() override { return stopped() || (cancelAt_ > 0 && steps_ >= cancelAt_); }
     void MostrarModal(host::TFormZTTandorPadraoResult& form) override { onModal(form); }
     bool Falha(const base::TFalha& failure) override;
+    void MostrarRelatorio(const host::TImpressao& print) override { onReport(print); }
+    void MostrarImpressaoGrade(const host::TImpressaoGrade&) override {} // a preview that the user closes at once
     void Focar(host::TControle& control) override;
     void Pesquisar(host::TZTLookupEx& lookup) override { onSearch(lookup); }
     void ProcessarMensagens() override {}

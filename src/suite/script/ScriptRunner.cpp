@@ -23,6 +23,7 @@ ScriptRunner::ScriptRunner(std::istream& script, std::ostream& out, host::TFabri
       factory_(std::move(window)), output_(std::move(output)) {
     interaction_.onModal = [this](host::TFormZTTandorPadraoResult& form) { showModal(form); };
     interaction_.onSearch = [this](host::TZTLookupEx& lookup) { answerSearch(lookup); };
+    interaction_.onReport = [this](const host::TImpressao& print) { take(print); };
 }
 
 const std::vector<ScriptRunner::Verb>& ScriptRunner::verbs() {

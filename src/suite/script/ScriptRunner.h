@@ -5,6 +5,7 @@
 #include "suite/export/Exporter.h"
 #include "suite/script/FormDriver.h"
 #include "suite/script/JsonLines.h"
+#include "suite/script/PrintedReport.h"
 #include "suite/script/ScriptInteraction.h"
 #include "suite/script/ScriptReader.h"
 
@@ -50,6 +51,7 @@ class ScriptRunner {
     void perform(const Verb& verb, const std::string& rest);
     void showModal(host::TFormZTTandorPadraoResult& form);
     void answerSearch(const host::TZTLookupEx& lookup);
+    void take(const host::TImpressao& print);
 
     void open(const Words&);
     void select(const Words&);
@@ -60,7 +62,7 @@ class ScriptRunner {
     void press(const Words& words);
     void answer(const Words& words);
     void cancel(const Words& words);
-    void print(const Words&);
+    void print(const Words& words);
     void exportView(const Words& words);
     void showSubject(const Words& words);
 
@@ -74,7 +76,9 @@ class ScriptRunner {
     exporting::Output output_;
     std::unique_ptr<host::TFormZTTandorPadraoSelecao> window_;
     std::vector<host::TForm*> forms_; // the window and the dialogs open over it
-    std::exception_ptr failure_;      // of the step that ended the script
+    PrintedReport printed_;
+    std::string printTo_;        // the file of the print under way; empty for none
+    std::exception_ptr failure_; // of the step that ended the script
 };
 
 } // namespace suite::script

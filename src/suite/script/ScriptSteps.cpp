@@ -2,9 +2,11 @@
 #include "suite/script/Show.h"
 
 #include "base/Texto.h"
+#include "suite/paint/ReportFile.h"
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 namespace suite::script {
 
@@ -60,7 +62,20 @@ void ScriptRunner::answer(const Words& words) {
 
 void ScriptRunner::cancel(const Words& words) { interaction_.cancelAtStep(positive(words.front())); }
 
-void ScriptRunner::print(const Words&) { throw base::TFalha("A impressão não faz parte desta versão."); }
+void ScriptRunner::print(const Words& words) {
+    printTo_ = words.empty() ? std::string() : words.front();
+    FormDriver(*window_).click("ActImprimirRelatorio");
+}
+
+void ScriptRunner::take(const host::TImpressao& print) {
+    printed_.keep(print);
+    const auto file = std::exchange(printTo_, {});
+    if (file.empty())
+        return;
+    const auto origin = output_.origin();
+    paint::writeReportPdf(print.Relatorio, file, paint::documentOf(print.Relatorio, origin.program, origin.made),
+                          [this](int) { interaction_.throwIfCancelled(); });
+}
 
 void ScriptRunner::exportView(const Words& words) {
     const auto* grid = window_->GradeEmVista();
@@ -70,6 +85,6 @@ void ScriptRunner::exportView(const Words& words) {
     output_.exporter.write(table, words.front(), exporting::headingOf(*window_, table, output_.origin()));
 }
 
-void ScriptRunner::showSubject(const Words& words) { show(out_, {*window_, front()}, words.front()); }
+void ScriptRunner::showSubject(const Words& words) { show(out_, {*window_, front(), printed_}, words.front()); }
 
 } // namespace suite::script

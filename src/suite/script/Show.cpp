@@ -13,8 +13,6 @@ namespace suite::script {
 
 namespace {
 
-constexpr const char* PrintedRows = "CdsImpressao";
-
 std::string describe(const host::TConteudoDescrito& content) {
     if (const auto* value = std::get_if<base::TValor>(&content))
         return exporting::jsonValue(*value);
@@ -57,8 +55,6 @@ const host::TDataSet& findDataSet(const View& view, const std::string& name) {
     throw WrongUse("Não há o conjunto de dados \"" + name + "\". Existem: " + list + ".");
 }
 
-[[noreturn]] void notYet(const std::string& what) { throw base::TFalha(what + " não faz parte desta versão."); }
-
 void showControls(JsonLines& out, const View& view, const std::string& rest) {
     exporting::JsonObject controls;
     const auto names = splitWords(rest, std::string::npos);
@@ -100,8 +96,8 @@ void showWindow(JsonLines& out, const View& view, const std::string&) {
 }
 
 void showRows(JsonLines& out, const View& view, const std::string& rest) {
-    if (rest == PrintedRows)
-        notYet("A impressão");
+    if (rest == PrintedReport::RowsName)
+        return out.write("linhas", view.printed.rows);
     if (!rest.empty())
         return out.writeRows(findDataSet(view, rest));
     const auto* rows = requireGrid(view.window).DataSet();
@@ -140,7 +136,11 @@ void showCommand(JsonLines& out, const View& view, const std::string& rest) {
     out.write("comando", members.add("texto", exporting::quoteJson(dataSet->CommandText)));
 }
 
-void showReport(JsonLines&, const View&, const std::string&) { notYet("O relatório"); }
+void showReport(JsonLines& out, const View& view, const std::string&) {
+    if (view.printed.bands.empty())
+        throw WrongUse("Nenhum relatório foi impresso.");
+    out.write("relatorio", view.printed.bands);
+}
 
 struct Subject {
     const char* name;

@@ -2,15 +2,17 @@
 
 #include "host/Formularios.h"
 #include "suite/script/JsonLines.h"
+#include "suite/script/PrintedReport.h"
 
 #include <string>
 
 namespace suite::script {
 
-// Where a script stands: its window, and the form in front, which may be a dialog of it.
+// Where a script stands: its window, the form in front, which may be a dialog of it, and what was printed last.
 struct View {
     host::TFormZTTandorPadraoSelecao& window;
     const host::TForm& front;
+    const PrintedReport& printed;
 };
 
 // The text of the window's title panel, empty without one.

@@ -26,6 +26,12 @@ int Headless::Mensagem(const host::TMensagem& message) {
     return host::TResposta::Primeira;
 }
 
+void Headless::MostrarRelatorio(const host::TImpressao& print) {
+    if (!onReport)
+        return TInteracao::MostrarRelatorio(print);
+    onReport(print);
+}
+
 void Headless::MostrarModal(host::TFormZTTandorPadraoResult& form) {
     if (onModal)
         onModal(form);

@@ -25,6 +25,8 @@ class Headless final : public host::TInteracao {
         std::string advice;
     };
     std::function<Answer(const host::TMensagem&)> onQuestion;
+    // Shows a report; without it a report is a fault of the program.
+    std::function<void(const host::TImpressao&)> onReport;
     // Whether the user wants the work under way to stop.
     std::function<bool()> onCancelQuery;
     // Of the database, told by the message that was shown last of such; none where it failed in nothing.
@@ -36,6 +38,7 @@ class Headless final : public host::TInteracao {
     void Progresso(const host::TEventoProgresso& event) override { progress_.show(event); }
     bool ProgressoCancelado() override { return onCancelQuery && onCancelQuery(); }
     void MostrarModal(host::TFormZTTandorPadraoResult& form) override;
+    void MostrarRelatorio(const host::TImpressao& print) override;
     bool Falha(const base::TFalha&) override { return false; }
     void Focar(host::TControle&) override {}
     void Pesquisar(host::TZTLookupEx&) override {}
