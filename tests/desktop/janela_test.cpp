@@ -296,6 +296,10 @@ class JanelaDoModulo : public Casca {
                 preencher(form);
             dentro_.MostrarModal(form);
         }
+        void MostrarRelatorio(const host::TImpressao& impressao) override { dentro_.MostrarRelatorio(impressao); }
+        void MostrarImpressaoGrade(const host::TImpressaoGrade& impressao) override {
+            dentro_.MostrarImpressaoGrade(impressao);
+        }
         bool Falha(const base::TFalha& falha) override { return dentro_.Falha(falha); }
         void Focar(host::TControle& controle) override { dentro_.Focar(controle); }
         void Pesquisar(host::TZTLookupEx& lookup) override { dentro_.Pesquisar(lookup); }
@@ -323,6 +327,10 @@ class JanelaDoModulo : public Casca {
         janela = std::make_unique<MainWindow>(sessao->window(), servicos);
         interacao.attach(janela.get(), &janela->binding());
         interacao.onFailure = [this](const std::exception& falha) { janela->fail(falha); };
+        interacao.tableInView = [this] { return &janela->paneInView()->table(); };
+        interacao.headingOf = [this](const auto& tabela) {
+            return suite::exporting::headingOf(sessao->window(), tabela, {});
+        };
         janela->show();
     }
     ~JanelaDoModulo() override {
@@ -382,8 +390,6 @@ TEST_F(JanelaDoModulo, MostraOQueOModeloTemEmVista) {
     EXPECT_EQ(Convite, texto("PnlTitulo"));
     EXPECT_FALSE(aVista("PnlLegenda") || aVista("PnlLegendaGradeOrcMensal"));
     EXPECT_FALSE(acao("repetir").isEnabled());
-    EXPECT_FALSE(acao("ActImprimir").isEnabled());
-    EXPECT_FALSE(acao("ActImprimir").toolTip().isEmpty());
     EXPECT_FALSE(acao("exportar.xlsx").isEnabled());
     EXPECT_EQ("&Atualizar Realizado", acao("ActAtualizarRealizado").text().toStdString());
 
@@ -482,6 +488,16 @@ TEST_F(JanelaDoModulo, CommitQueFalhaNaoImprime) {
         EXPECT_TRUE(parte<QLabel>(mensagem, "texto").text().contains(QStringLiteral("IDDEMACTOT")));
     };
     comModais({ler}, [&] { acao("ActSelecionar").trigger(); }); // and no word of a print behind it
+}
+
+TEST_F(JanelaDoModulo, ImprimirAbreAPreviaDoRelatorioEDaGrade) {
+    selecionar("1");
+    std::string titulo;
+    const auto ver = [&](QDialog& previa) { titulo = previa.windowTitle().toStdString(); };
+    comModais({ver}, [&] { acao("ActImprimir").trigger(); });
+    EXPECT_EQ("Visualizando - Contabilidade Gerencial Orçamentária", titulo);
+    comModais({ver}, [&] { acao("ActImprimirGrade").trigger(); });
+    EXPECT_EQ("Visualizando - Configuração de percentuais por conta", titulo);
 }
 
 TEST_F(JanelaDoModulo, CadaControleTemSeuLugar) {

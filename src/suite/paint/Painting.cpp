@@ -21,7 +21,6 @@ void paintPage(const paper::Page& page, const Picture& picture) {
     cairo_set_source_rgb(on.get(), 1, 1, 1);
     cairo_paint(on.get());
     cairo_scale(on.get(), picture.scale, picture.scale);
-    cairo_translate(on.get(), -picture.left, -picture.top);
     paint(on.get(), page);
     cairo_surface_flush(surface.get());
     if (const auto status = cairo_status(on.get()); status != CAIRO_STATUS_SUCCESS)

@@ -12,15 +12,14 @@ namespace suite::paint {
 // Widths of the letters that pages are painted with. It may be copied, and asked in one thread at a time.
 paper::Measure paperMeasure();
 
-// A picture that is given: rows of pixels, 0xFFRRGGBB each in the machine's order, as many bytes apart.
+// A picture of a page's upper left corner, whose memory is given: rows of pixels, 0xFFRRGGBB each in the machine's
+// order, as many bytes apart.
 struct Picture {
     unsigned char* pixels = nullptr;
     int width = 0;
     int height = 0;
     int stride = 0;
     double scale = 1; // pixels of a micrometre of the page
-    double left = 0;  // of the picture's corner on the page, in micrometres
-    double top = 0;
 };
 
 // White, and what the page has there.

@@ -1,6 +1,8 @@
 #include "suite/desktop/shell/Desktop.h"
 
 #include "base/Falhas.h"
+#include "host/Servicos.h"
+#include "suite/desktop/grid/GridPane.h"
 #include "suite/desktop/look/Appearance.h"
 #include "suite/desktop/look/Icons.h"
 #include "suite/desktop/look/Text.h"
@@ -126,6 +128,15 @@ MainWindow::End show(const DesktopProgram& program, Aside& aside, const Database
     services.busy = [&] { return aside.running(); };
     MainWindow window(session->window(), services);
     interaction.attach(&window, &window.binding());
+    interaction.program = program.version.substr(0, program.version.find('\n'));
+    interaction.tableInView = [&] {
+        const auto* pane = window.paneInView();
+        return pane ? &pane->table() : nullptr;
+    };
+    interaction.headingOf = [&](const table::Table& table) {
+        return exporting::headingOf(session->window(), table,
+                                    {interaction.program, request.target, host::Servicos().Agora()});
+    };
     interaction.onFailure = [&](const std::exception& failure) { window.fail(failure); };
     const auto end = window.run();
     interaction.attach(nullptr, nullptr); // dialogs go before the forms that they show

@@ -1,9 +1,15 @@
 #include "suite/desktop/shell/DesktopInteraction.h"
 
+#include "host/Servicos.h"
+#include "paper/BandPages.h"
 #include "suite/desktop/form/DialogWindow.h"
 #include "suite/desktop/form/LookupWindow.h"
 #include "suite/desktop/look/Text.h"
+#include "suite/desktop/preview/PreviewWindow.h"
+#include "suite/desktop/shell/Failures.h"
 #include "suite/desktop/shell/MessageDialog.h"
+#include "suite/paint/ReportFile.h"
+#include "suite/paint/grid/TablePages.h"
 
 #include <QApplication>
 
@@ -135,6 +141,34 @@ bool DesktopInteraction::Falha(const base::TFalha& failure) {
     if (onFailure)
         onFailure(failure);
     return true;
+}
+
+void DesktopInteraction::show(const PreviewContent& content) {
+    PreviewWindow preview(content, front());
+    preview.onFailure = [&](const std::exception& failure) { showFailure(failure, {}, &preview); };
+    preview.run();
+}
+
+void DesktopInteraction::MostrarRelatorio(const host::TImpressao& print) {
+    const auto made = host::Servicos().Agora ? host::Servicos().Agora() : base::TDataHora();
+    show({QStringLiteral("Visualizando"), paint::documentOf(print.Relatorio, program, made),
+          [&] { return std::make_unique<paper::BandPages>(print.Relatorio, paint::paperMeasure()); }});
+}
+
+void DesktopInteraction::MostrarImpressaoGrade(const host::TImpressaoGrade& print) {
+    const auto* table = tableInView ? tableInView() : nullptr;
+    if (!table)
+        return;
+    auto heading = headingOf(*table);
+    if (heading.criteria.empty())
+        heading.criteria.emplace_back();
+    heading.criteria.front().Valor = print.Titulo;
+    auto document = paint::documentOf(heading);
+    document.title = print.Documento;
+    show({fromUtf8(print.Legenda), std::move(document), [&] {
+              return std::make_unique<paint::TablePages>(*table, heading, print.Papel, paint::paperMeasure(),
+                                                         paint::TablePages::Foot::None);
+          }});
 }
 
 void DesktopInteraction::Focar(host::TControle& control) {

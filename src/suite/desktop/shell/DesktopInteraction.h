@@ -3,6 +3,7 @@
 #include "host/Interacao.h"
 #include "suite/desktop/shell/Aside.h"
 #include "suite/desktop/shell/ProgressWindow.h"
+#include "suite/export/Exporter.h"
 
 #include <QElapsedTimer>
 
@@ -25,6 +26,11 @@ class DesktopInteraction final : public host::TInteracao {
     void attach(QWidget* window, FormBinding* binding);
     // A failure in a dialog.
     std::function<void(const std::exception&)> onFailure;
+    // What the documents of a preview say made them.
+    std::string program;
+    // The table of the grid in view with what it was asked for, null for none.
+    std::function<const table::Table*()> tableInView;
+    std::function<exporting::Heading(const table::Table&)> headingOf;
     // Whether the next dialog is confirmed as it stands, and shown only if a rule keeps it open.
     void confirmNextModal(bool confirm) { confirmNext_ = confirm; }
 
@@ -33,12 +39,15 @@ class DesktopInteraction final : public host::TInteracao {
     bool ProgressoCancelado() override;
     void MostrarModal(host::TFormZTTandorPadraoResult& form) override;
     bool Falha(const base::TFalha& failure) override;
+    void MostrarRelatorio(const host::TImpressao& print) override;
+    void MostrarImpressaoGrade(const host::TImpressaoGrade& print) override;
     void Focar(host::TControle& control) override;
     void Pesquisar(host::TZTLookupEx& lookup) override;
     void ProcessarMensagens() override;
 
   private:
     DialogWindow& dialogOf(host::TFormZTTandorPadraoResult& form);
+    void show(const struct PreviewContent& content);
     void waiting(std::chrono::milliseconds since);
     void waited();
     void turnNowAndThen();

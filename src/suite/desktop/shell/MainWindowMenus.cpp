@@ -20,7 +20,7 @@ namespace {
 
 constexpr int IconSize = 22;
 constexpr const char* LookSetting = "aparencia";
-constexpr const char* NoPrint = "A impressão ainda não faz parte desta versão";
+constexpr const char* NotHere = "Não faz parte deste módulo";
 
 QKeySequence keys(const char* text) { return QKeySequence(QString::fromLatin1(text)); }
 
@@ -71,7 +71,7 @@ void MainWindow::makeActions() {
     binding_->follow(model, [this, &model] { select_->setEnabled(model.Enabled()); });
     repeat_ = addAction("repetir", QStringLiteral("&Repetir a consulta"), keys("F5"), [this] { repeat(); });
     repeat_->setToolTip(QStringLiteral("Consultar de novo com a última seleção (F5)"));
-    actual_ = formAction("ActAtualizarRealizado", "&Atualizar Realizado", "Não faz parte deste módulo");
+    actual_ = formAction("ActAtualizarRealizado", "&Atualizar Realizado", NotHere);
     lastUpdate_ = addAction("ultimaAtualizacao", QStringLiteral("Última a&tualização do realizado..."), {}, [this] {
         MessageContent content;
         content.title = QStringLiteral("Última atualização do realizado");
@@ -79,11 +79,11 @@ void MainWindow::makeActions() {
         content.text = fromMessage(form_.DescreverUltimaAtualizacao());
         MessageDialog(content, this).ask();
     });
-    print_ = formAction("ActImprimir", "&Imprimir", NoPrint);
-    printReport_ = formAction("ActImprimirRelatorio", "&Relatório...", NoPrint);
-    printGrid_ = formAction("ActImprimirGrade", "&Grade...", NoPrint);
-    if (print_->isEnabled())
-        print_->setShortcut(QKeySequence::Print);
+    print_ = formAction("ActImprimir", "&Imprimir", NotHere);
+    printReport_ = formAction("ActImprimirRelatorio", "&Relatório...", NotHere);
+    printGrid_ = formAction("ActImprimirGrade", "&Grade...", NotHere);
+    print_->setShortcut(QKeySequence::Print);
+    print_->setToolTip(QStringLiteral("Imprimir o relatório da consulta (Ctrl+P)"));
     select_->setIcon(icon(Symbol::Select));
     repeat_->setIcon(icon(Symbol::Repeat));
     actual_->setIcon(icon(Symbol::Actual));
@@ -211,6 +211,7 @@ void MainWindow::showKeys() {
     content.buttons = {QStringLiteral("OK")};
     content.text = QStringLiteral("Ctrl+N ou F2\tSelecionar\n"
                                   "F5\tRepetir a consulta\n"
+                                  "Ctrl+P\tImprimir\n"
                                   "Ctrl+E\tExportar para planilha\n"
                                   "Ctrl+Alt+C\tCopiar tudo, com títulos\n"
                                   "Ctrl+O\tAbrir outro banco de dados\n"

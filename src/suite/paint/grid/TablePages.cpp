@@ -1,6 +1,7 @@
 #include "suite/paint/grid/TablePages.h"
 
 #include "base/Texto.h"
+#include "paper/Rulers.h"
 #include "suite/paint/Painting.h"
 #include "suite/table/Luminance.h"
 
@@ -31,22 +32,18 @@ constexpr base::TCor ThinInk = 0xC8C8C8;
 
 constexpr base::TPapel Across{true, 10'000, 10'000, 10'000, 10'000};
 
-paper::Sheet sheetOf(bool across) {
-    constexpr paper::Length Short = 210'000;
-    constexpr paper::Length Long = 297'000;
-    return across ? paper::Sheet{Long, Short} : paper::Sheet{Short, Long};
-}
-
 } // namespace
 
 TablePages::TablePages(const table::Table& table, const exporting::Heading& heading, const base::TPapel& sheet,
-                       paper::Measure measure)
-    : table_(table), margins_(sheet), sheet_(sheetOf(sheet.Paisagem)), measure_(std::move(measure)),
+                       paper::Measure measure, Foot foot)
+    : table_(table), margins_(sheet), sheet_(paper::settingOf(sheet).sheet), measure_(std::move(measure)),
       columns_(layColumns(table, measure_, (sheet_.width - sheet.Esquerda - sheet.Direita) / Point)),
       em_(columns_.fontSize * Point), width_((sheet_.width - sheet.Esquerda - sheet.Direita) / em_),
       height_((sheet_.height - sheet.Topo - sheet.Base) / em_ - FootHeight) {
     layHeading(heading);
     rows_ = layRows(table_, columns_, measure_, height_ - headingHeight(), height_);
+    if (foot == Foot::None && !rows_.rows.empty() && rows_.rows.back().kind == TableRows::Kind::Total)
+        rows_.rows.pop_back(); // it never stands on a page of its own
 }
 
 void TablePages::layHeading(const exporting::Heading& heading) {
@@ -228,12 +225,16 @@ paper::Length TablePages::down(double ems) const {
     return margins_.Topo + static_cast<paper::Length>(std::lround(ems * em_));
 }
 
-void writeTablePdf(const table::Table& table, const std::filesystem::path& file, const exporting::Heading& heading) {
-    TablePages pages(table, heading, Across, paperMeasure());
+Document documentOf(const exporting::Heading& heading) {
     std::string criteria;
     for (const auto& line : heading.lines())
         criteria += (criteria.empty() ? "" : "; ") + line;
-    writePdf(pages, file, {heading.title(), criteria, heading.origin.program, heading.origin.made});
+    return {heading.title(), criteria, heading.origin.program, heading.origin.made};
+}
+
+void writeTablePdf(const table::Table& table, const std::filesystem::path& file, const exporting::Heading& heading) {
+    TablePages pages(table, heading, Across, paperMeasure());
+    writePdf(pages, file, documentOf(heading));
 }
 
 } // namespace suite::paint

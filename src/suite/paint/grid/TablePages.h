@@ -2,6 +2,7 @@
 
 #include "paper/Page.h"
 #include "suite/export/Exporter.h"
+#include "suite/paint/Painting.h"
 #include "suite/paint/grid/TableRows.h"
 
 namespace suite::paint {
@@ -10,9 +11,10 @@ namespace suite::paint {
 // of closed groups too.
 class TablePages final : public paper::PageSource {
   public:
+    enum class Foot { Total, None };
     // The table outlives the pages.
     TablePages(const table::Table& table, const exporting::Heading& heading, const base::TPapel& sheet,
-               paper::Measure measure);
+               paper::Measure measure, Foot foot = Foot::Total);
 
     paper::Sheet sheet() const override { return sheet_; }
     bool next(paper::Page& page) override;
@@ -61,6 +63,9 @@ class TablePages final : public paper::PageSource {
     paper::Page* page_ = nullptr; // under way
     double top_ = 0;              // of what is set next
 };
+
+// What a table's document says of itself.
+Document documentOf(const exporting::Heading& heading);
 
 // What a table says on paper, A4 across. For Exporter::add: throws TFalha or std::system_error. The same table and
 // heading give the same bytes.
