@@ -1,7 +1,7 @@
 // Bands become pages: what stands together, what is repeated, where columns end, and what a text does that is too wide.
 #include "base/Texto.h"
 #include "paper/BandPages.h"
-#include "suite/paint/PageText.h"
+#include "suite/paint/report/ReportText.h"
 
 #include <gtest/gtest.h>
 

@@ -112,9 +112,9 @@ void addPrintOptions(CLI::App& command, ConsultOptions& options) {
         ->type_name("M")
         ->check(oneOf({"1", "2", "3", "4", "5"}));
     addSelectionOptions(command, options);
-    command.add_option("--formato", options.format, "pdf (padrão, pede --saida) ou texto")
+    command.add_option("--formato", options.format, "pdf (padrão), html ou xlsx, que pedem --saida, ou texto")
         ->type_name("T")
-        ->check(oneOf({"pdf", "texto"}));
+        ->check(oneOf({"pdf", "texto", "html", "xlsx"}));
 }
 
 void addActualsOptions(CLI::App& command, ActualsOptions& options) {

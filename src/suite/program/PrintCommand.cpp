@@ -1,26 +1,21 @@
 #include "suite/program/PrintCommand.h"
 
-#include "base/ArquivoInteiro.h"
 #include "base/Falhas.h"
-#include "suite/paint/PageText.h"
-#include "suite/paint/ReportFile.h"
+#include "suite/paint/report/ReportFile.h"
+#include "suite/paint/report/ReportText.h"
 #include "suite/program/Consultation.h"
 
-#include <fstream>
 #include <iostream>
+#include <map>
 
 namespace suite::program {
 
 namespace {
 
-void writeTextFile(const base::TRelatorio& report, const std::string& output) {
-    base::GravarArquivoInteiro(output, [&](const std::filesystem::path& file) {
-        std::ofstream out(file, std::ios::binary);
-        out.exceptions(std::ios::failbit | std::ios::badbit);
-        paint::writeText(out, report);
-        out.close();
-    });
-}
+const std::map<std::string, paint::ReportFormat> Formats{{"pdf", paint::ReportFormat::Pdf},
+                                                         {"texto", paint::ReportFormat::Text},
+                                                         {"html", paint::ReportFormat::Html},
+                                                         {"xlsx", paint::ReportFormat::Xlsx}};
 
 } // namespace
 
@@ -30,17 +25,15 @@ ExitCode runPrint(const ConsultOptions& options, const std::function<exporting::
         throw base::TFalha("O formato " + options.format + " pede um arquivo: use também --saida.");
     bool printed = false;
     interaction.onReport = [&](const host::TImpressao& print) {
-        if (options.format == "pdf") {
-            const auto made = origin();
-            paint::writeReportPdf(print.Relatorio, options.output,
-                                  paint::documentOf(print.Relatorio, made.program, made.made), [&](int) {
-                                      if (cancelled())
-                                          throw base::TFalha("A impressão foi cancelada; nenhum arquivo foi gravado.");
-                                  });
-        } else if (options.output.empty()) {
+        if (options.output.empty()) {
             paint::writeText(std::cout, print.Relatorio);
         } else {
-            writeTextFile(print.Relatorio, options.output);
+            const auto made = origin();
+            paint::writeReport(print.Relatorio, options.output, Formats.at(options.format),
+                               paint::documentOf(print.Relatorio, made.program, made.made), [&](int) {
+                                   if (cancelled())
+                                       throw base::TFalha("A impressão foi cancelada; nenhum arquivo foi gravado.");
+                               });
         }
         printed = true;
     };

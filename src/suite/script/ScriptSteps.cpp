@@ -2,7 +2,7 @@
 #include "suite/script/Show.h"
 
 #include "base/Texto.h"
-#include "suite/paint/ReportFile.h"
+#include "suite/paint/report/ReportFile.h"
 
 #include <algorithm>
 #include <map>
@@ -73,8 +73,9 @@ void ScriptRunner::take(const host::TImpressao& print) {
     if (file.empty())
         return;
     const auto origin = output_.origin();
-    paint::writeReportPdf(print.Relatorio, file, paint::documentOf(print.Relatorio, origin.program, origin.made),
-                          [this](int) { interaction_.throwIfCancelled(); });
+    paint::writeReport(print.Relatorio, file, paint::ReportFormat::Pdf,
+                       paint::documentOf(print.Relatorio, origin.program, origin.made),
+                       [this](int) { interaction_.throwIfCancelled(); });
 }
 
 void ScriptRunner::exportView(const Words& words) {

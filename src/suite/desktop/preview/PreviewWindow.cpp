@@ -49,7 +49,7 @@ QString fileNameOf(const std::string& title) {
     for (auto& letter : name)
         if (QStringLiteral("/\\:*?\"<>|").contains(letter))
             letter = QLatin1Char(' ');
-    return name.simplified() + QStringLiteral(".pdf");
+    return name.simplified();
 }
 
 } // namespace
@@ -131,7 +131,7 @@ QAction* PreviewWindow::add(const char* name, const QString& text, const QString
 void PreviewWindow::makeBar() {
     add("imprimir", QStringLiteral("&Imprimir..."), QStringLiteral("Imprimir"), keys("Ctrl+P"),
         [this] { attempt([this] { print(); }); });
-    add("salvar", QStringLiteral("&Salvar em PDF..."), QStringLiteral("Salvar em PDF"), keys("Ctrl+S"),
+    add("salvar", QStringLiteral("&Salvar..."), QStringLiteral("Salvar em PDF ou planilha"), keys("Ctrl+S"),
         [this] { attempt([this] { save(); }); });
     bar_->addSeparator();
     addPages();
@@ -301,18 +301,34 @@ void PreviewWindow::write(const std::filesystem::path& file) {
 }
 
 void PreviewWindow::save() {
-    QFileDialog dialog(this, QStringLiteral("Salvar em PDF"), settings::value(FolderSetting, QDir::homePath()),
-                       QStringLiteral("Documento (*.pdf)"));
+    QStringList kinds{QStringLiteral("Documento (*.pdf)")};
+    for (const auto& other : content_.others)
+        kinds.append(QStringLiteral("%1 (*%2)").arg(other.caption, other.ending));
+    QFileDialog dialog(this, QStringLiteral("Salvar"), settings::value(FolderSetting, QDir::homePath()));
+    dialog.setNameFilters(kinds);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("pdf"));
+    const auto takeEnding = [&](const QString& kind) {
+        dialog.setDefaultSuffix(kind.section(QStringLiteral("*."), 1).chopped(1));
+    };
+    takeEnding(kinds.constFirst());
+    connect(&dialog, &QFileDialog::filterSelected, &dialog, takeEnding);
     dialog.selectFile(fileNameOf(content_.document.title));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return;
     const auto file = dialog.selectedFiles().constFirst();
     settings::keepValue(FolderSetting, QFileInfo(file).absolutePath());
-    base::GravarArquivoInteiro(toUtf8(file), [this](const std::filesystem::path& aside) { write(aside); });
+    saveAs(file);
     told_->setText(QStringLiteral("Salvo em %1").arg(QFileInfo(file).fileName()));
     told_->setToolTip(file);
+}
+
+void PreviewWindow::saveAs(const QString& file) {
+    for (const auto& other : content_.others)
+        if (file.endsWith(other.ending, Qt::CaseInsensitive))
+            return other.write(toUtf8(file));
+    if (!file.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive))
+        throw base::TFalha("Escolha um nome que termine em .pdf ou num dos outros formatos da lista.");
+    base::GravarArquivoInteiro(toUtf8(file), [this](const std::filesystem::path& aside) { write(aside); });
 }
 
 void PreviewWindow::print() {

@@ -23,6 +23,13 @@ struct PreviewContent {
     QString caption; // of the window
     paint::Document document;
     std::function<std::unique_ptr<paper::PageSource>()> pages; // anew at each call
+    // As what it can be saved beside a document of its pages: by the ending with its point, whole or not at all.
+    struct Other {
+        QString ending;
+        QString caption;
+        std::function<void(const std::filesystem::path&)> write;
+    };
+    std::vector<Other> others;
 };
 
 // Pages before they are printed: read, sought, saved as a document, printed.
@@ -54,6 +61,7 @@ class PreviewWindow : public QDialog {
     void grown();
     void attempt(const std::function<void()>& deed);
     void save();
+    void saveAs(const QString& file);
     void print();
     void write(const std::filesystem::path& file);
     void seek(bool forward);

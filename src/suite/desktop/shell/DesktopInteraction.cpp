@@ -8,8 +8,8 @@
 #include "suite/desktop/preview/PreviewWindow.h"
 #include "suite/desktop/shell/Failures.h"
 #include "suite/desktop/shell/MessageDialog.h"
-#include "suite/paint/ReportFile.h"
 #include "suite/paint/grid/TablePages.h"
+#include "suite/paint/report/ReportFile.h"
 
 #include <QApplication>
 
@@ -151,8 +151,18 @@ void DesktopInteraction::show(const PreviewContent& content) {
 
 void DesktopInteraction::MostrarRelatorio(const host::TImpressao& print) {
     const auto made = host::Servicos().Agora ? host::Servicos().Agora() : base::TDataHora();
-    show({QStringLiteral("Visualizando"), paint::documentOf(print.Relatorio, program, made),
-          [&] { return std::make_unique<paper::BandPages>(print.Relatorio, paint::paperMeasure()); }});
+    const auto document = paint::documentOf(print.Relatorio, program, made);
+    const auto as = [&](paint::ReportFormat format) {
+        return [&, format](const std::filesystem::path& file) {
+            paint::writeReport(print.Relatorio, file, format, document);
+        };
+    };
+    show({QStringLiteral("Visualizando"),
+          document,
+          [&] { return std::make_unique<paper::BandPages>(print.Relatorio, paint::paperMeasure()); },
+          {{QStringLiteral(".xlsx"), QStringLiteral("Planilha"), as(paint::ReportFormat::Xlsx)},
+           {QStringLiteral(".html"), QStringLiteral("Página"), as(paint::ReportFormat::Html)},
+           {QStringLiteral(".txt"), QStringLiteral("Texto"), as(paint::ReportFormat::Text)}}});
 }
 
 void DesktopInteraction::MostrarImpressaoGrade(const host::TImpressaoGrade& print) {
@@ -165,10 +175,13 @@ void DesktopInteraction::MostrarImpressaoGrade(const host::TImpressaoGrade& prin
     heading.criteria.front().Valor = print.Titulo;
     auto document = paint::documentOf(heading);
     document.title = print.Documento;
-    show({fromUtf8(print.Legenda), std::move(document), [&] {
+    show({fromUtf8(print.Legenda),
+          std::move(document),
+          [&] {
               return std::make_unique<paint::TablePages>(*table, heading, print.Papel, paint::paperMeasure(),
                                                          paint::TablePages::Foot::None);
-          }});
+          },
+          {}});
 }
 
 void DesktopInteraction::Focar(host::TControle& control) {

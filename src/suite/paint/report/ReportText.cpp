@@ -1,4 +1,4 @@
-#include "suite/paint/PageText.h"
+#include "suite/paint/report/ReportText.h"
 
 #include "base/Texto.h"
 #include "paper/BandPages.h"
